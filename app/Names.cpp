@@ -1,0 +1,65 @@
+#include "app/Names.h"
+
+#include "app/AsciiCase.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace {
+
+constexpr std::array<std::wstring_view, 6> kDevices = {L"CON", L"PRN", L"AUX", L"NUL", L"CONIN$", L"CONOUT$"};
+constexpr std::array<std::wstring_view, 2> kNumberedDevices = {L"COM", L"LPT"};
+constexpr std::wstring_view kDeviceNumbers = L"0123456789\u00b9\u00b2\u00b3";
+
+template <class Table> bool Holds(const Table& table, std::wstring_view text) {
+    return std::find(table.begin(), table.end(), text) != table.end();
+}
+
+} // namespace
+
+bool IsInvalidChar(wchar_t c) { return kInvalidNameChars.find(c) != std::wstring_view::npos; }
+
+bool IsValidName(std::wstring_view name) { return std::none_of(name.begin(), name.end(), IsInvalidChar); }
+
+bool IsReservedName(std::wstring_view name) {
+    const std::wstring stem = AsciiUpper(TrimBlanks(name.substr(0, name.find(L'.'))));
+    if (Holds(kDevices, stem)) return true;
+    return stem.size() == 4 && Holds(kNumberedDevices, std::wstring_view(stem).substr(0, 3)) &&
+           kDeviceNumbers.find(stem.back()) != std::wstring_view::npos;
+}
+
+bool HasControlChar(std::wstring_view text) {
+    return std::any_of(text.begin(), text.end(), [](wchar_t c) { return c < 32 || (c >= 127 && c < 160); });
+}
+
+bool EndsInDot(std::wstring_view name) { return !name.empty() && name.back() == L'.'; }
+
+std::wstring TrimBlanks(std::wstring_view text) {
+    const std::size_t first = text.find_first_not_of(L' ');
+    if (first == std::wstring_view::npos) return {};
+    return std::wstring(text.substr(first, text.find_last_not_of(L' ') - first + 1));
+}
+
+std::int32_t NumericValue(std::wstring_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(L' '), text.size()));
+    const bool negative = !text.empty() && text.front() == L'-';
+    if (negative || (!text.empty() && text.front() == L'+')) text.remove_prefix(1);
+
+    using Limits = std::numeric_limits<std::int32_t>;
+    std::int64_t value = 0;
+    for (const wchar_t c : text) {
+        if (c < L'0' || c > L'9' || value > Limits::max()) break;
+        value = value * 10 + (c - L'0');
+    }
+    if (negative) value = -value;
+    return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
+}
+
+std::optional<std::wstring> CheckedExtension(std::wstring_view typed) {
+    std::wstring extension = TrimBlanks(typed);
+    if (extension.starts_with(L'.')) extension.erase(0, 1);
+    const bool valid = extension.size() <= kExtensionLength && IsValidName(extension) &&
+                       !HasControlChar(extension) && extension.find(L'.') == std::wstring::npos;
+    return valid ? std::optional(extension) : std::nullopt;
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+// The characters that no file name may hold, in the order in which messages list them.
+inline constexpr std::wstring_view kInvalidNameChars = L"/\\:*?\"<>|";
+
+// The most characters of a receive file extension.
+inline constexpr std::size_t kExtensionLength = 3;
+
+bool IsInvalidChar(wchar_t c);
+
+// No character is invalid. The empty name is valid: who needs a name tests for that too.
+bool IsValidName(std::wstring_view name);
+
+// The name, with any extension, opens a device instead of a file: CON, PRN, AUX, NUL, CONIN$, CONOUT$
+// and COM or LPT with one digit, superscript 1 to 3 included. Windows compares what stands before the
+// first dot, without case and without the blanks around it.
+bool IsReservedName(std::wstring_view name);
+
+// Below code 32, or 127 to 159.
+bool HasControlChar(std::wstring_view text);
+
+// Windows drops dots at the end of a name, so such a name would make a file of another name.
+bool EndsInDot(std::wstring_view name);
+
+// Without the blanks (code 32 only) at both ends.
+std::wstring TrimBlanks(std::wstring_view text);
+
+// The number that `text` begins with, as the settings file holds numbers: blanks in front are skipped,
+// then a sign may stand, then decimal digits; what follows is ignored ("16 x" is 16). Without a digit
+// the value is 0. A number beyond 32 bits becomes the nearest one that has 32 bits; callers that need
+// 16 bits must compare before they narrow.
+std::int32_t NumericValue(std::wstring_view text);
+
+// The receive file extension as typed by the user: blanks at both ends and then one leading "." are
+// dropped. Nothing when the rest is longer than 3 characters or holds a ".", a control character or one
+// that no name may hold. The empty extension is valid.
+std::optional<std::wstring> CheckedExtension(std::wstring_view typed);
