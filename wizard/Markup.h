@@ -40,8 +40,8 @@ concept RichTextSelection = requires(Control& control, const Control& constant, 
     control.SelFontSize(std::int16_t{});
 };
 
-inline constexpr std::uint32_t kBlack = 0x000000;
-inline constexpr std::uint32_t kRed = 0x0000FF;
+inline constexpr std::uint32_t kInkBlack = 0x000000;
+inline constexpr std::uint32_t kInkRed = 0x0000FF;
 inline constexpr std::int16_t kBreakFontSize = 3;
 
 enum class TagLook { kRed, kBold, kItalic, kBullet, kBlock };
@@ -58,12 +58,12 @@ struct TagPass {
 };
 
 // clang-format off
-inline constexpr TagPass kPageRed       {L"<r>", L"</r>", TagLook::kRed,      0,   0, AfterTag::kBlack};
-inline constexpr TagPass kPageBullet    {L"<u>", L"</u>", TagLook::kBullet, 150, 150, AfterTag::kBlack};
-inline constexpr TagPass kBold          {L"<b>", L"</b>", TagLook::kBold,     0,   0, AfterTag::kNotBold};
-inline constexpr TagPass kMessageItalic {L"<i>", L"</i>", TagLook::kItalic,   0,   0, AfterTag::kNotBold};
-inline constexpr TagPass kMessageIndent {L"<l>", L"</l>", TagLook::kBlock,  150, 250, AfterTag::kNothing};
-inline constexpr TagPass kMessageBullet {L"<u>", L"</u>", TagLook::kBullet, 150, 150, AfterTag::kNothing};
+inline constexpr TagPass kRedPass           {L"<r>", L"</r>", TagLook::kRed,      0,   0, AfterTag::kBlack};
+inline constexpr TagPass kPageBulletPass    {L"<u>", L"</u>", TagLook::kBullet, 150, 150, AfterTag::kBlack};
+inline constexpr TagPass kBoldPass          {L"<b>", L"</b>", TagLook::kBold,     0,   0, AfterTag::kNotBold};
+inline constexpr TagPass kItalicPass        {L"<i>", L"</i>", TagLook::kItalic,   0,   0, AfterTag::kNotBold};
+inline constexpr TagPass kBlockPass         {L"<l>", L"</l>", TagLook::kBlock,  150, 250, AfterTag::kNothing};
+inline constexpr TagPass kMessageBulletPass {L"<u>", L"</u>", TagLook::kBullet, 150, 150, AfterTag::kNothing};
 // clang-format on
 
 // Where `tag` begins in the control's text, at `from` or behind it; counted from 0. Positions counted
@@ -89,7 +89,7 @@ void ReplaceTag(Control& control, std::int16_t position, std::wstring_view tag, 
 template <RichTextSelection Control> void ApplyLook(Control& control, const TagPass& pass) {
     switch (pass.look) {
     case TagLook::kRed:
-        control.SelColor(kRed);
+        control.SelColor(kInkRed);
         return;
     case TagLook::kBold:
         control.SelBold(true);
@@ -109,7 +109,7 @@ template <RichTextSelection Control> void ApplyLook(Control& control, const TagP
 
 template <RichTextSelection Control> void ApplyAfter(Control& control, AfterTag after) {
     control.SelLength(0);
-    if (after == AfterTag::kBlack) control.SelColor(kBlack);
+    if (after == AfterTag::kBlack) control.SelColor(kInkBlack);
     if (after == AfterTag::kNotBold) control.SelBold(false);
 }
 
@@ -128,9 +128,9 @@ template <RichTextSelection Control> void RunPass(Control& control, const TagPas
 }
 
 // ---- pages ----
-template <RichTextSelection Control> void FormatInfoRed(Control& info) { RunPass(info, kPageRed); }
-template <RichTextSelection Control> void FormatInfoBold(Control& info) { RunPass(info, kBold); }
-template <RichTextSelection Control> void FormatInfoBullet(Control& info) { RunPass(info, kPageBullet); }
+template <RichTextSelection Control> void FormatInfoRed(Control& info) { RunPass(info, kRedPass); }
+template <RichTextSelection Control> void FormatInfoBold(Control& info) { RunPass(info, kBoldPass); }
+template <RichTextSelection Control> void FormatInfoBullet(Control& info) { RunPass(info, kPageBulletPass); }
 
 template <RichTextSelection Control> void FormatInfo(Control& info) {
     FormatInfoRed(info);
@@ -143,12 +143,12 @@ template <RichTextSelection Control> void ResetInfo(Control& info) {
     info.SetText(L"  ");
     info.SelStart(0);
     info.SelLength(static_cast<std::int32_t>(info.Text().size()));
-    info.SelColor(kBlack);
+    info.SelColor(kInkBlack);
     info.SelBold(false);
 }
 
 // ---- messages ----
-template <RichTextSelection Control> void FormatBold(Control& message) { RunPass(message, kBold); }
+template <RichTextSelection Control> void FormatBold(Control& message) { RunPass(message, kBoldPass); }
 
 template <RichTextSelection Control> void FormatBreaks(Control& message) {
     static_cast<void>(message.SelFontSize());
@@ -164,16 +164,16 @@ template <RichTextSelection Control> void FormatBreaks(Control& message) {
     }
 }
 
-template <RichTextSelection Control> void FormatItalic(Control& message) { RunPass(message, kMessageItalic); }
+template <RichTextSelection Control> void FormatItalic(Control& message) { RunPass(message, kItalicPass); }
 
 template <RichTextSelection Control> void FormatIndent(Control& message) {
     static_cast<void>(message.SelFontSize());
-    RunPass(message, kMessageIndent);
+    RunPass(message, kBlockPass);
 }
 
 template <RichTextSelection Control> void FormatBullet(Control& message) {
     static_cast<void>(message.SelFontSize());
-    RunPass(message, kMessageBullet);
+    RunPass(message, kMessageBulletPass);
 }
 
 template <RichTextSelection Control> void FormatText(Control& message) {
