@@ -10,7 +10,8 @@ OUT/Icons/NAME.ICO     device icons, files beside the program
 Drawings are fitted to the pixel grid before they are rendered: the corners of rectangles and
 polygons and the edges of circles go to whole pixels; paths are left as drawn. Two attributes
 choose details by size: data-from="N" drops an element below N pixels, data-below="N" from N on
-(N is the height of an icon, or the DPI of a picture).
+(N is the height of an icon, or the DPI of a picture). data-fit="stem" keeps equal widths equal
+where rectangles need not meet, data-fit="no" leaves a shape as drawn.
 """
 import os
 import struct
@@ -25,12 +26,12 @@ SVG = "{http://www.w3.org/2000/svg}"
 
 DPI = (96, 120, 144, 192)
 PICTURES = ("picScreenLogo", "picCncIcon", "picLogo", "picVarnel")
-MAX_COLOURS = 64
+MAX_COLOURS = 256
 
 # Frames above the limit are PNG in the container, which keeps the program small.
 #                name pattern       sizes                              largest plain frame
 LINKED_ICONS = (("imgIconDevice",   (16, 20, 24, 32, 40, 48, 64, 256), 32),
-                ("picAppIcon",      (32, 40, 48, 64),                  0))
+                ("picAppIcon",      (32, 40, 48, 64),                  32))
 DEVICE_SIZES = (16, 24, 32, 48, 64)
 
 
@@ -41,7 +42,8 @@ def fit_rect(e, scale):
         a = float(e.get(start, 0))
         b = a + float(e.get(length))
         lo = round(a * scale)
-        hi = max(round(b * scale), lo + 1)
+        hi = round(b * scale) if e.get("data-fit") != "stem" else lo + round((b - a) * scale)
+        hi = max(hi, lo + 1)
         e.set(start, repr(lo / scale))
         e.set(length, repr((hi - lo) / scale))
 
