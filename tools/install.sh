@@ -6,7 +6,7 @@ packages=(
     g++-mingw-w64-i686-posix cmake ninja-build ccache googletest
     clang libclang-rt-14-dev llvm clang-format clang-tidy cppcheck
     wine wine32:i386 xvfb xauth xdotool
-    imagemagick librsvg2-bin zip unzip
+    imagemagick librsvg2-bin python3 zip unzip
 )
 
 installed() {

@@ -15,7 +15,7 @@ lay_out_suite() {
     for name in "${documents[@]}"; do
         printf 'Placeholder of the demonstration suite.\r\n' > "$suite/$name"
     done
-    find res/icons -iname '*.ico' -exec cp -t "$suite/Icons" {} + 2> /dev/null || true
+    find build/release/Icons -iname '*.ico' -exec cp -t "$suite/Icons" {} + 2> /dev/null || true
     find build/release/Samples -iname '*.dcp' -exec cp -t "$suite/Samples" {} + 2> /dev/null || true
     if [ ! -e "$suite/Settings/VarnelDnc.ini" ]; then
         printf '[General]\r\nSecurity=0\r\n\r\n[Install]\r\nOptions=1\r\n' > "$suite/Settings/VarnelDnc.ini"
