@@ -1,0 +1,65 @@
+#!/bin/bash
+# Static checks; each is a function of the sources alone, so what passed once is not checked again.
+#   tools/lint.sh format | cppcheck | tidy
+# The debug preset must have been built (its dependency log tells which headers a source includes).
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+folders=()
+for folder in win app wizard shell ftw ndw tools bench soak tests; do
+    [ -d "$folder" ] && folders+=("$folder")
+done
+sources() { find "${folders[@]}" -name '*.cpp' "$@" | sort; }
+
+check_format() { sources -o -name '*.h' | xargs clang-format --dry-run -Werror; }
+
+check_cppcheck() {
+    mkdir -p build/cppcheck
+    sources -not -path 'tests/*' | cppcheck --file-list=- --cppcheck-build-dir=build/cppcheck -j "$(nproc)" \
+        --std=c++20 --platform=win32W --enable=warning,performance,portability --inline-suppr \
+        --suppress=missingIncludeSystem --error-exitcode=1 --quiet -I . \
+        -DUNICODE -D_UNICODE -D_WIN32 -DWIN32_LEAN_AND_MEAN
+}
+
+gcc=/usr/lib/gcc/i686-w64-mingw32/12-posix/include/c++
+tidy_flags=(--target=i686-w64-mingw32 -nostdinc++
+    -isystem "$gcc" -isystem "$gcc/i686-w64-mingw32" -isystem "$gcc/backward"
+    -isystem /usr/i686-w64-mingw32/include -isystem /usr/src/googletest/googletest/include
+    -std=c++20 -DUNICODE -D_UNICODE -DWIN32_LEAN_AND_MEAN -DNOMINMAX -DWINVER=0x0601 -D_WIN32_WINNT=0x0601
+    -I . -I build/debug/generated -I res)
+
+# Prints "SOURCE KEY" for each source; the key changes with the source, its own headers and the checks.
+tidy_keys() {
+    local root checks
+    root=$PWD/
+    checks=$(cat .clang-tidy tools/lint.sh | sha256sum | cut -c1-16)
+    # A source compiled twice has two entries of the same headers: the first is enough.
+    declare -A headers
+    local line source=
+    while read -r line; do
+        case $line in
+        *'#deps'*) source= ;;
+        "$root"*.cpp) source=${line#"$root"}; [ -z "${headers[$source]+x}" ] && headers[$source]=$source || source= ;;
+        "$root"*.h) [ -z "$source" ] || headers[$source]+=" ${line#"$root"}" ;;
+        esac
+    done < <(ninja -C build/debug -t deps 2> /dev/null)
+    for source in $(sources); do
+        # shellcheck disable=SC2086
+        echo "$source $checks$(cat ${headers[$source]:-$source} 2> /dev/null | sha256sum | cut -c1-32)"
+    done
+}
+
+tidy_one() {
+    local source=$1 stamp=build/tidy/$2
+    [ -e "$stamp" ] && return 0
+    clang-tidy --quiet "$source" -- "${tidy_flags[@]}" 2> "$stamp.err" && touch "$stamp" && rm "$stamp.err"
+}
+
+check_tidy() {
+    mkdir -p build/tidy
+    export -f tidy_one
+    export flags_text="${tidy_flags[*]}"
+    tidy_keys | xargs -P "$(nproc)" -L 1 bash -c 'read -ra tidy_flags <<< "$flags_text"; tidy_one "$@"' tidy
+}
+
+"check_$1"
