@@ -1,0 +1,56 @@
+#include "tools/tour/Capture.h"
+
+#include <vector>
+
+namespace {
+
+BITMAPINFO Describe(int width, int height) {
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = width;
+    info.bmiHeader.biHeight = height;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 24;
+    return info;
+}
+
+std::vector<char> ReadPixels(const RECT& area, BITMAPINFO& info) {
+    const int width = info.bmiHeader.biWidth, height = info.bmiHeader.biHeight;
+    const HDC screen = GetDC(nullptr);
+    const HDC memory = CreateCompatibleDC(screen);
+    const HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
+    const HGDIOBJ before = SelectObject(memory, bitmap);
+    BitBlt(memory, 0, 0, width, height, screen, area.left, area.top, SRCCOPY);
+    SelectObject(memory, before);
+    const size_t rowBytes = (static_cast<size_t>(width) * 3 + 3) / 4 * 4;
+    std::vector<char> pixels(rowBytes * static_cast<size_t>(height));
+    GetDIBits(memory, bitmap, 0, static_cast<UINT>(height), pixels.data(), &info, DIB_RGB_COLORS);
+    DeleteObject(bitmap);
+    DeleteDC(memory);
+    ReleaseDC(nullptr, screen);
+    return pixels;
+}
+
+bool Put(HANDLE file, const void* data, size_t size) {
+    DWORD written = 0;
+    return WriteFile(file, data, static_cast<DWORD>(size), &written, nullptr) && written == size;
+}
+
+} // namespace
+
+bool CaptureScreen(const RECT& area, const std::wstring& file) {
+    BITMAPINFO info = Describe(area.right - area.left, area.bottom - area.top);
+    const std::vector<char> pixels = ReadPixels(area, info);
+    BITMAPFILEHEADER header{};
+    header.bfType = 0x4D42;
+    header.bfOffBits = sizeof header + sizeof info.bmiHeader;
+    header.bfSize = header.bfOffBits + static_cast<DWORD>(pixels.size());
+    const HANDLE handle =
+        CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (handle == INVALID_HANDLE_VALUE) return false;
+    const bool ok = Put(handle, &header, sizeof header) &&
+                    Put(handle, &info.bmiHeader, sizeof info.bmiHeader) &&
+                    Put(handle, pixels.data(), pixels.size());
+    CloseHandle(handle);
+    return ok;
+}

@@ -1,0 +1,167 @@
+// Walks one wizard from its first page to its last by its own buttons and pictures every page.
+//   tour PROGRAM FOLDER [ARGUMENTS]   leaves FOLDER\ndw-01.bmp ... or FOLDER\ftw-01.bmp ...
+#include "tools/tour/Capture.h"
+#include "tools/tour/Windows.h"
+
+#include <array>
+#include <cstdio>
+
+namespace {
+
+constexpr DWORD kPatience = 20000; // milliseconds for one step
+
+// The First-Time Setup Wizard has no pages 4 to 6.
+constexpr std::array<int, 14> kFtwPages{1, 2, 3, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17};
+
+class Tour {
+  public:
+    Tour(std::wstring program, std::wstring folder, std::wstring arguments)
+        : program_(std::move(program)), folder_(std::move(folder)), arguments_(std::move(arguments)) {
+        std::wstring upper = arguments_;
+        CharUpperBuffW(upper.data(), static_cast<DWORD>(upper.size()));
+        newDevice_ = upper.find(L"/NDW") != std::wstring::npos;
+    }
+
+    bool Run() {
+        if (!Start()) return Fail(L"the wizard did not open its window");
+        for (step_ = 1; step_ <= 30; ++step_) {
+            Settle(main_);
+            FillIn();
+            Picture(main_, L"");
+            if (!GoOn()) return Fail(L"the page did not change");
+            if (Ended()) return true;
+        }
+        return Fail(L"the wizard did not end");
+    }
+
+  private:
+    bool Start() {
+        STARTUPINFOW startup{};
+        startup.cb = sizeof startup;
+        std::wstring line = L'"' + program_ + L"\" " + arguments_;
+        if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                            &process_))
+            return false;
+        return Wait([this] {
+            for (const HWND window : WindowsOf(process_.dwProcessId))
+                if (ClassOf(window).rfind(L"VWizard", 0) == 0) main_ = window;
+            return main_ != nullptr && NextButton() != nullptr;
+        });
+    }
+
+    template <class Condition> bool Wait(Condition condition) const {
+        const DWORD start = GetTickCount();
+        while (!condition()) {
+            if (GetTickCount() - start > kPatience) return false;
+            WaitForSingleObject(process_.hProcess, 20);
+        }
+        return true;
+    }
+
+    [[nodiscard]] bool Ended() const { return WaitForSingleObject(process_.hProcess, 0) == WAIT_OBJECT_0; }
+
+    [[nodiscard]] HWND NextButton() const {
+        for (const wchar_t* caption : {L"&Next >", L"&Create", L"&Finish"})
+            if (const HWND button = FindControl(main_, L"Button", caption)) return button;
+        return nullptr;
+    }
+
+    [[nodiscard]] int PageNumber() const {
+        const auto index = static_cast<size_t>(step_ - 1);
+        return newDevice_ || index >= kFtwPages.size() ? step_ : kFtwPages[index];
+    }
+
+    // Waits until the window has worked off its messages and stays as it is.
+    void Settle(HWND window) const {
+        std::wstring last;
+        Wait([&] {
+            UpdateWindow(window);
+            std::wstring now = Contents(window);
+            const bool same = now == last;
+            last = std::move(now);
+            return same;
+        });
+    }
+
+    // Gives the answers that lead to every page and let the walk go on.
+    void FillIn() const {
+        const int page = PageNumber();
+        if (newDevice_ && page == 5) SendMessageW(FindControl(main_, L"Button", L"ASCII"), BM_CLICK, 0, 0);
+        if (newDevice_ && page == 16) Type(L"Tour Mill");
+        if (!newDevice_ && page == 9) Type(L"C:\\CNC Programs");
+        if (!newDevice_ && page == 12) SendMessageW(FindControl(main_, L"ListBox", L""), LB_SETSEL, TRUE, 0);
+        Settle(main_);
+    }
+
+    void Type(const wchar_t* text) const {
+        SendMessageW(FindControl(main_, L"Edit", L""), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text));
+    }
+
+    // Presses Next and whatever asks on the way, until the page has changed or the program has ended.
+    bool GoOn() {
+        const std::wstring before = Contents(main_);
+        int boxes = 0;
+        Press(NextButton());
+        return Wait([&] {
+            if (Ended()) return true;
+            if (const HWND box = Asking()) {
+                Settle(box);
+                Picture(box, boxes++ == 0 ? L"-box" : L"-box2");
+                Answer(box);
+                return false;
+            }
+            return IsWindowEnabled(main_) && NextButton() != nullptr && Contents(main_) != before;
+        });
+    }
+
+    // The window in front that waits for an answer, or null.
+    [[nodiscard]] HWND Asking() const {
+        for (const HWND window : WindowsOf(process_.dwProcessId))
+            if (window != main_ && FindControl(window, L"Button", L"") != nullptr) return window;
+        return nullptr;
+    }
+
+    void Answer(HWND box) const {
+        for (const wchar_t* caption : {L"OK", L"&OK", L"&Yes", L"Yes"})
+            if (const HWND button = FindControl(box, L"Button", caption)) {
+                Press(button);
+                Wait([box] { return !IsWindow(box) || !IsWindowVisible(box); });
+                return;
+            }
+    }
+
+    void Picture(HWND window, const wchar_t* suffix) const {
+        std::array<wchar_t, 32> name{};
+        wsprintfW(name.data(), L"\\%s-%02d%s.bmp", newDevice_ ? L"ndw" : L"ftw", PageNumber(), suffix);
+        RECT area{};
+        GetWindowRect(window, &area);
+        RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+        GdiFlush();
+        // The screen is drawn by another process, which needs a moment after the last call.
+        WaitForSingleObject(process_.hProcess, 150);
+        if (CaptureScreen(area, folder_ + name.data())) std::printf("%ls\n", name.data() + 1);
+    }
+
+    bool Fail(const wchar_t* reason) const {
+        std::printf("step %d: %ls\n", step_, reason);
+        if (main_ != nullptr) std::printf("%ls\n", Contents(main_).c_str());
+        if (process_.hProcess != nullptr) TerminateProcess(process_.hProcess, 1);
+        return false;
+    }
+
+    std::wstring program_, folder_, arguments_;
+    bool newDevice_ = false;
+    PROCESS_INFORMATION process_{};
+    HWND main_ = nullptr;
+    int step_ = 0;
+};
+
+} // namespace
+
+int wmain(int count, wchar_t** words) {
+    if (count < 3) return 2;
+    std::wstring arguments;
+    for (int i = 3; i < count; ++i)
+        arguments += (i > 3 ? L" " : L"") + std::wstring(words[i]);
+    return Tour(words[1], words[2], arguments).Run() ? 0 : 1;
+}
