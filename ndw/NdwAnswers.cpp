@@ -19,7 +19,7 @@ std::wstring Caption(const std::array<std::wstring_view, N>& captions, std::int1
     return std::wstring(position < N ? captions[position] : L"?");
 }
 
-std::wstring OrNone(std::wstring codes) { return codes.empty() ? L"none" : codes; }
+std::wstring OrNone(const std::wstring& codes) { return codes.empty() ? L"none" : codes; }
 
 } // namespace
 
