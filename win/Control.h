@@ -1,0 +1,140 @@
+#pragma once
+
+// One child control of a form: a thin handle on a control of the system's own class. The window is made
+// when it is first needed (shown, filled or read), so that a form pays only for what its page uses;
+// until then place, visibility and tool tip are kept here. Positions and sizes are twips in the form's
+// client area. A control must not outlive its form's window.
+
+#include "win/Handles.h"
+#include "win/Twips.h"
+
+#include <windows.h>
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace win {
+
+class Form;
+
+class Control {
+  public:
+    Control() = default;
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+    virtual ~Control() = default;
+
+    // Ties the control to its form and gives it the class, style and control id that it is made with.
+    // Called once, before anything else. `className` must be a literal.
+    void Bind(Form& form, int id, const wchar_t* className, DWORD style, DWORD extendedStyle = 0);
+
+    HWND Handle();                              // makes the window when there is none yet
+    HWND HandleIfMade() const { return hwnd_; } // null while nothing needed the window
+    int Id() const { return id_; }
+
+    void Place(Twips left, Twips top, Twips width, Twips height);
+    void Left(Twips left) { Place(left, top_, width_, height_); }
+    void Top(Twips top) { Place(left_, top, width_, height_); }
+    void Width(Twips width) { Place(left_, top_, width, height_); }
+    void Height(Twips height) { Place(left_, top_, width_, height); }
+    Twips Left() const { return left_; }
+    Twips Top() const { return top_; }
+    Twips Width() const { return width_; }
+    Twips Height() const { return height_; }
+    Twips Bottom() const { return top_ + height_; }
+
+    void Visible(bool visible);
+    bool Visible() const { return visible_; }
+    void Enabled(bool enabled);
+    bool Enabled() { return IsWindowEnabled(Handle()) != FALSE; }
+    void Text(std::wstring_view text);
+    std::wstring Text();
+    void ToolTip(std::wstring_view text); // empty: none
+    const std::wstring& ToolTip() const { return toolTip_; }
+    void Font(HFONT font); // not owned; null goes back to the form's own
+    HFONT Font() const;    // the one in force
+    void Focus() { SetFocus(Handle()); }
+    void Repaint();
+    // Puts the control behind `previous` in tab order, which is also the order a screen reader walks.
+    void Follows(Control& previous);
+
+    LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+        return SendMessageW(Handle(), message, wParam, lParam);
+    }
+
+    std::function<void()> onClick; // BN_CLICKED; the second half of a double click is no click
+
+  protected:
+    virtual void Made() {} // the window has just been made
+    // Looks at a message before the system's own control does; true: handled, `result` is the answer.
+    // Only called for classes that ask for it in Made() by InterceptMessages().
+    virtual bool OnMessage(UINT, WPARAM, LPARAM, LRESULT& /*result*/) { return false; }
+    void InterceptMessages();
+    LRESULT SystemProcedure(UINT message, WPARAM wParam, LPARAM lParam) {
+        return CallWindowProcW(systemProcedure_, hwnd_, message, wParam, lParam);
+    }
+
+  private:
+    friend class Form;
+    static LRESULT CALLBACK InterceptedProcedure(HWND, UINT, WPARAM, LPARAM);
+
+    Form* form_ = nullptr;
+    const wchar_t* className_ = nullptr;
+    DWORD style_ = 0;
+    DWORD extendedStyle_ = 0;
+    int id_ = 0;
+    HWND hwnd_ = nullptr;
+    WNDPROC systemProcedure_ = nullptr;
+    HFONT font_ = nullptr;
+    Twips left_{}, top_{}, width_{}, height_{};
+    bool visible_ = false;
+    std::wstring toolTip_;
+};
+
+class Label : public Control {};
+
+// Push button, option button or check box, by its style.
+class Button : public Control {
+  public:
+    bool Checked() { return Send(BM_GETCHECK) == BST_CHECKED; }
+    void Checked(bool checked) { Send(BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED); }
+};
+
+// Clickable text: a button drawn by its form. A hand over it; Space and Enter follow it.
+class Link : public Control {
+  protected:
+    void Made() override { InterceptMessages(); }
+    bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
+};
+
+class TextBox : public Control {
+  public:
+    void Limit(int characters) { Send(EM_SETLIMITTEXT, static_cast<WPARAM>(characters)); }
+    void SelectAll() { Send(EM_SETSEL, 0, -1); }
+};
+
+class ListBox : public Control {
+  public:
+    void Clear() { Send(LB_RESETCONTENT); }
+    void Add(std::wstring_view item);
+    int Count() { return static_cast<int>(Send(LB_GETCOUNT)); }
+    std::wstring Item(int index);
+    int Index() { return static_cast<int>(Send(LB_GETCURSEL)); } // -1: none; single selection only
+    void Index(int index) { Send(LB_SETCURSEL, static_cast<WPARAM>(index)); }
+    bool Selected(int index) { return Send(LB_GETSEL, static_cast<WPARAM>(index)) > 0; }
+    int SelectedCount(); // multiple selection only
+};
+
+class ComboBox : public Control {
+  public:
+    void Clear() { Send(CB_RESETCONTENT); }
+    void Add(std::wstring_view item);
+    int Index() { return static_cast<int>(Send(CB_GETCURSEL)); } // -1: none
+    void Index(int index) { Send(CB_SETCURSEL, static_cast<WPARAM>(index)); }
+};
+
+std::wstring WindowText(HWND window);
+
+} // namespace win

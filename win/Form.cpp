@@ -1,0 +1,189 @@
+#include "win/Form.h"
+
+#include "win/AppError.h"
+
+#include <commctrl.h>
+
+namespace win {
+
+namespace {
+
+constexpr wchar_t kMessageTitle[] = L"Varnel DNC Setup Wizard";
+
+ATOM RegisterFormClass(const FormLook& look, WNDPROC procedure) {
+    WNDCLASSEXW formClass{};
+    formClass.cbSize = sizeof formClass;
+    formClass.lpfnWndProc = procedure;
+    formClass.cbWndExtra = DLGWINDOWEXTRA;
+    formClass.hInstance = GetModuleHandleW(nullptr);
+    formClass.hIcon = look.icon;
+    formClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
+    formClass.lpszClassName = look.className;
+    return RegisterClassExW(&formClass);
+}
+
+} // namespace
+
+Form::~Form() {
+    if (hwnd_) DestroyWindow(hwnd_);
+}
+
+void Form::Create(const FormLook& look, HFONT defaultFont, int width, int height) {
+    defaultFont_ = defaultFont;
+    RegisterFormClass(look, &Form::WindowProcedure); // fails harmlessly the second time
+    CreateWindowExW(look.extendedStyle, look.className, look.caption, look.style, 0, 0, width, height,
+                    nullptr, nullptr, GetModuleHandleW(nullptr), this);
+    if (!hwnd_) throw AppError(static_cast<int>(GetLastError()), L"VWizard", L"Unable to open a window.");
+}
+
+void Form::ShowModal(HWND owner) {
+    if (owner) EnableWindow(owner, FALSE);
+    ShowWindow(hwnd_, SW_SHOW);
+    MSG message{};
+    bool ended = false;
+    while (!ended && IsWindowVisible(hwnd_)) {
+        ended = GetMessageW(&message, nullptr, 0, 0) <= 0;
+        if (!ended) PumpMessage(message);
+    }
+    if (owner) {
+        EnableWindow(owner, TRUE);
+        SetActiveWindow(owner);
+    }
+    if (ended) EndMessageLoop(); // the outer loop has to see it too
+}
+
+void Form::DefaultButton(Control& button) {
+    const LRESULT current = SendMessageW(hwnd_, DM_GETDEFID, 0, 0);
+    if (HIWORD(current) == DC_HASDEFID && LOWORD(current) != button.Id())
+        SendDlgItemMessageW(hwnd_, LOWORD(current), BM_SETSTYLE, BS_PUSHBUTTON | BS_NOTIFY, TRUE);
+    SendMessageW(hwnd_, DM_SETDEFID, static_cast<WPARAM>(button.Id()), 0);
+    button.Send(BM_SETSTYLE, BS_DEFPUSHBUTTON | BS_NOTIFY, TRUE);
+}
+
+Control* Form::ControlOf(HWND window) const {
+    for (Control* control : controls_)
+        if (control->hwnd_ && control->hwnd_ == window) return control;
+    return nullptr;
+}
+
+LRESULT CALLBACK Form::WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_NCCREATE) {
+        auto* form = static_cast<Form*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
+        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(form));
+        form->hwnd_ = window;
+    }
+    auto* form = reinterpret_cast<Form*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (!form || !form->hwnd_) return DefDlgProcW(window, message, wParam, lParam);
+    return form->Dispatch(message, wParam, lParam);
+}
+
+// The edge that exceptions do not pass: one that left a window procedure would end the program.
+LRESULT Form::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
+    try {
+        return OnMessage(message, wParam, lParam);
+    } catch (const ProgramEnded&) {
+        return 0;
+    } catch (const AppError& error) {
+        ShowMessageBox(hwnd_, error.Description(), MB_OK | MB_ICONEXCLAMATION);
+    } catch (const std::exception& error) {
+        const std::string what = error.what();
+        ShowMessageBox(hwnd_, std::wstring(what.begin(), what.end()), MB_OK | MB_ICONEXCLAMATION);
+    }
+    return 0;
+}
+
+LRESULT Form::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_COMMAND:
+        return OnCommand(wParam, lParam);
+    case WM_DRAWITEM: {
+        const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lParam);
+        if (Control* control = ControlOf(item.hwndItem)) OnDrawItem(*control, item);
+        return TRUE;
+    }
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLORBTN:
+        return OnControlColor(reinterpret_cast<HDC>(wParam));
+    case WM_ERASEBKGND: {
+        RECT client{};
+        GetClientRect(hwnd_, &client);
+        FillRect(reinterpret_cast<HDC>(wParam), &client, Background());
+        return TRUE;
+    }
+    case WM_SETCURSOR: // the mouse is here: the first time a tip could be wanted
+        AddToolTips();
+        break;
+    case WM_NCDESTROY: {
+        const HWND window = std::exchange(hwnd_, nullptr);
+        for (Control* control : controls_)
+            control->hwnd_ = nullptr;
+        return DefDlgProcW(window, message, wParam, lParam);
+    }
+    default:
+        break;
+    }
+    return DefDlgProcW(hwnd_, message, wParam, lParam);
+}
+
+LRESULT Form::OnCommand(WPARAM wParam, LPARAM lParam) {
+    Control* control = lParam ? ControlOf(reinterpret_cast<HWND>(lParam)) : nullptr;
+    if (!control) {
+        if (LOWORD(wParam) == IDCANCEL) OnEscape();
+    } else if (HIWORD(wParam) == BN_CLICKED && control->onClick) {
+        control->onClick();
+    }
+    return 0;
+}
+
+LRESULT Form::OnControlColor(HDC dc) {
+    SetTextColor(dc, GetSysColor(COLOR_WINDOWTEXT));
+    SetBkColor(dc, GetSysColor(background_));
+    return reinterpret_cast<LRESULT>(Background());
+}
+
+void Form::AddToolTips() {
+    if (toolTips_) return;
+    toolTips_ =
+        CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0,
+                        0, 0, 0, hwnd_, nullptr, GetModuleHandleW(nullptr), nullptr);
+    for (Control* control : controls_)
+        if (!control->toolTip_.empty()) SetToolTip(*control);
+}
+
+void Form::SetToolTip(Control& control) {
+    if (!toolTips_) return;
+    TTTOOLINFOW tool{};
+    tool.cbSize = TTTOOLINFOW_V1_SIZE; // what every version of the common controls takes
+    tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+    tool.hwnd = hwnd_;
+    tool.uId = reinterpret_cast<UINT_PTR>(control.Handle());
+    tool.lpszText = control.toolTip_.data();
+    SendMessageW(toolTips_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    if (!control.toolTip_.empty()) SendMessageW(toolTips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+}
+
+void EndMessageLoop() {
+    PostQuitMessage(0);
+    throw ProgramEnded{};
+}
+
+int ShowMessageBox(HWND owner, const std::wstring& text, UINT buttonsAndIcon) {
+    return MessageBoxW(owner, text.c_str(), kMessageTitle, buttonsAndIcon);
+}
+
+void PumpMessage(MSG& message) {
+    const HWND form = message.hwnd ? GetAncestor(message.hwnd, GA_ROOT) : nullptr;
+    if (form && IsDialogMessageW(form, &message)) return;
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+}
+
+void PumpPendingMessages() {
+    MSG message{};
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (message.message == WM_QUIT) EndMessageLoop();
+        PumpMessage(message);
+    }
+}
+
+} // namespace win
