@@ -1,0 +1,74 @@
+#include "app/Files.h"
+
+#include "app/Names.h"
+#include "app/Paths.h"
+#include "win/Handles.h"
+
+#include <shellapi.h>
+
+namespace {
+
+// Fails where the shell would have to be asked (a relative pattern, a missing file): never shows a box.
+DWORD Attributes(const std::wstring& path) { return GetFileAttributesW(path.c_str()); }
+
+bool ShellOperation(UINT function, const std::wstring& from, const std::wstring* to, unsigned flags,
+                    HWND owner) {
+    const std::wstring source = from + L'\0'; // the shell wants a list that ends in two NULs
+    const std::wstring target = (to ? *to : std::wstring()) + L'\0';
+    SHFILEOPSTRUCTW operation{};
+    operation.hwnd = owner;
+    operation.wFunc = function;
+    operation.pFrom = source.c_str();
+    operation.pTo = to ? target.c_str() : nullptr;
+    operation.fFlags = static_cast<FILEOP_FLAGS>(flags);
+    return SHFileOperationW(&operation) == 0 && !operation.fAnyOperationsAborted;
+}
+
+bool HasExtension(const std::wstring& name, const std::wstring& extension) {
+    return name.size() >= extension.size() &&
+           lstrcmpiW(name.c_str() + name.size() - extension.size(), extension.c_str()) == 0;
+}
+
+} // namespace
+
+bool FileExists(const std::wstring& path) {
+    if (TrimBlanks(SplitPath(path, 3)).empty()) return false;
+    const DWORD attributes = Attributes(path);
+    return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+bool FolderExists(const std::wstring& path) {
+    if (path.empty()) return false;
+    const DWORD attributes = Attributes(path);
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+std::optional<unsigned long long> FileSize(const std::wstring& path) {
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    if (!GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data)) return std::nullopt;
+    if (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) return std::nullopt;
+    return static_cast<unsigned long long>(data.nFileSizeHigh) << 32 | data.nFileSizeLow;
+}
+
+std::vector<std::wstring> ListFiles(const std::wstring& folder, const std::wstring& extension) {
+    std::vector<std::wstring> names;
+    WIN32_FIND_DATAW found{};
+    const HANDLE handle = FindFirstFileW((folder + L"*" + extension).c_str(), &found);
+    if (handle == INVALID_HANDLE_VALUE) return names;
+    const win::UniqueFind search(handle);
+    do { // the system's pattern also matches longer extensions
+        const std::wstring name = found.cFileName;
+        if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) && HasExtension(name, extension))
+            names.push_back(name);
+    } while (FindNextFileW(handle, &found));
+    return names;
+}
+
+bool CopyFiles(const std::wstring& files, const std::wstring& folder, std::int16_t flags, HWND owner) {
+    return ShellOperation(FO_COPY, files, &folder, flags == 0 ? FOF_ALLOWUNDO : static_cast<unsigned>(flags),
+                          owner);
+}
+
+bool DeleteAnyFile(const std::wstring& files, std::int16_t flags, HWND owner) {
+    return ShellOperation(FO_DELETE, files, nullptr, static_cast<unsigned>(flags) | FOF_ALLOWUNDO, owner);
+}

@@ -1,0 +1,56 @@
+#include "app/Settings.h"
+
+#include "app/Names.h"
+#include "app/Text.h"
+#include "app/modLocations.h"
+
+#include <windows.h>
+
+#include <string_view>
+
+namespace {
+
+constexpr char kWrittenSection[] = "General";
+
+std::wstring ReadValue(const std::wstring& file, const std::wstring& section, const std::wstring& key) {
+    char buffer[255];
+    std::fill(std::begin(buffer), std::end(buffer), ' ');
+    GetPrivateProfileStringA(ToAnsi(section).c_str(), ToAnsi(key).c_str(), "", buffer, sizeof buffer,
+                             ToAnsi(file).c_str());
+    const std::string_view text(buffer, sizeof buffer);
+    const std::size_t end = text.find('\0');
+    return end == std::string_view::npos ? std::wstring() : FromAnsi(text.substr(0, end));
+}
+
+} // namespace
+
+std::wstring ReadIniString(const std::wstring& section, const std::wstring& key,
+                           const std::wstring& defaultText) {
+    std::wstring value = ReadValue(locations.IniFile, section, key);
+    return value.empty() ? defaultText : value;
+}
+
+std::wstring ReadProfileString(const std::wstring& file, const std::wstring& section, const std::wstring& key,
+                               const std::wstring& defaultText) {
+    std::wstring value = TrimBlanks(ReadValue(file, section, key));
+    return value.empty() ? defaultText : value;
+}
+
+bool TryWriteIniString(const std::wstring& key, const std::wstring& value) {
+    return WritePrivateProfileStringA(kWrittenSection, ToAnsi(key).c_str(), ToAnsi(value).c_str(),
+                                      ToAnsi(locations.IniFile).c_str()) != FALSE;
+}
+
+void WriteIniString(const std::wstring& key, const std::wstring& value) {
+    if (!TryWriteIniString(key, value)) ReportIniWriteError();
+}
+
+win::AppError IniWriteError() {
+    return {kIniWriteErrorNumber, L"VWizard",
+            L"Unable to write data to configuration file: \r\n" + locations.IniFile +
+                L".\r\n\r\nFile may be READ ONLY or may be locked by another application."};
+}
+
+void ReportIniWriteError() { throw IniWriteError(); }
+
+void FlushIni() { WritePrivateProfileStringA(nullptr, nullptr, nullptr, ToAnsi(locations.IniFile).c_str()); }

@@ -1,0 +1,71 @@
+#include "app/SingleInstance.h"
+
+#include "app/Pattern.h"
+
+#include <algorithm>
+#include <iterator>
+#include <string_view>
+
+namespace {
+
+constexpr int kTextBuffer = 255;
+constexpr DWORD kWaitForOther_ms = 2000;
+constexpr DWORD kWaitStep_ms = 20;
+
+// What the system keeps of the caption; asks no window, so a hung one costs nothing.
+std::wstring CaptionOf(HWND window) {
+    wchar_t buffer[kTextBuffer] = L"";
+    InternalGetWindowText(window, buffer, kTextBuffer);
+    return TrimAtNul({buffer, kTextBuffer});
+}
+
+void BringToFront(HWND window) {
+    ShowWindowAsync(window, SW_SHOWNORMAL);
+    SetForegroundWindow(window);
+}
+
+} // namespace
+
+bool FindRunningWizard(const std::wstring& title) {
+    HWND start = nullptr;
+    const HWND window = LocateWizardWindow(title, start);
+    if (!window) return false;
+    BringToFront(window);
+    return true;
+}
+
+HWND LocateWizardWindow(const std::wstring& pattern, HWND& start) {
+    if (!start) start = GetDesktopWindow();
+    for (HWND window = GetWindow(start, GW_CHILD); window; window = GetWindow(window, GW_HWNDNEXT)) {
+        HWND subtree = window;
+        if (const HWND found = LocateWizardWindow(pattern, subtree)) return found;
+        if (!MatchesPattern(CaptionOf(window), pattern)) continue;
+        if (GetWindowClass(window).starts_with(kWizardClassPrefix)) return window;
+    }
+    return nullptr;
+}
+
+std::wstring GetWindowClass(HWND window) {
+    // One place more than the count that the call is told, which the suite's programs give as 256.
+    wchar_t buffer[257];
+    std::fill(std::begin(buffer), std::end(buffer), L' ');
+    const int length = GetClassNameW(window, buffer, 256);
+    return {buffer, static_cast<std::size_t>(std::max(0, length))};
+}
+
+bool InstanceClaim::Take(std::int16_t mode, const std::wstring& title) {
+    const std::wstring name = L"Local\\VWizard.Mode" + std::to_wstring(mode);
+    mutex_ = CreateMutexW(nullptr, TRUE, name.c_str());
+    if (!mutex_ || GetLastError() != ERROR_ALREADY_EXISTS) return true;
+    const DWORD begin = GetTickCount();
+    while (GetTickCount() - begin < kWaitForOther_ms) {
+        if (FindRunningWizard(title)) return false;
+        const DWORD result = WaitForSingleObject(mutex_, kWaitStep_ms);
+        if (result == WAIT_OBJECT_0 || result == WAIT_ABANDONED) return true; // the other copy has ended
+    }
+    return false;
+}
+
+InstanceClaim::~InstanceClaim() {
+    if (mutex_) CloseHandle(mutex_);
+}
