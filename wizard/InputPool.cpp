@@ -1,0 +1,178 @@
+#include "wizard/InputPool.h"
+
+#include "win/Fonts.h"
+#include "win/Screen.h"
+#include "wizard/frmWizard.h"
+
+#include <algorithm>
+
+namespace {
+
+// Control ids of element 0 of each group.
+enum PoolIds {
+    kOptionId = 200,
+    kCheckId = 220,
+    kTextId = 240,
+    kListId = 260,
+    kPromptId = 280,
+    kLinkId = 300,
+    kComboId = 320,
+    kFrameId = 330
+};
+
+constexpr DWORD kGroup = WS_GROUP | WS_TABSTOP;
+
+template <class Group>
+void BindGroup(Group& group, win::Form& form, int firstId, const wchar_t* className, DWORD style,
+               DWORD extendedStyle = 0) {
+    for (auto& element : group) {
+        element.Bind(form, firstId++, className, style, extendedStyle);
+        element.Place(layout::kTextLeft, layout::kTextTop, layout::kInputWidth, layout::kOptionHeight);
+    }
+}
+
+} // namespace
+
+void InputPool::Bind(win::Form& form) {
+    optUserInput[0].Bind(form, kOptionId, L"Button", BS_AUTORADIOBUTTON | kGroup);
+    for (std::size_t i = 1; i < optUserInput.size(); ++i)
+        optUserInput[i].Bind(form, kOptionId + static_cast<int>(i), L"Button", BS_AUTORADIOBUTTON);
+    BindGroup(chkUserInput, form, kCheckId, L"Button", BS_AUTOCHECKBOX | kGroup);
+    BindGroup(txtUserInput, form, kTextId, L"Edit", ES_AUTOHSCROLL | kGroup, WS_EX_CLIENTEDGE);
+    constexpr DWORD kList = LBS_NOINTEGRALHEIGHT | LBS_NOTIFY | WS_VSCROLL | kGroup;
+    lstUserInput[0].Bind(form, kListId, L"ListBox", LBS_EXTENDEDSEL | kList, WS_EX_CLIENTEDGE);
+    lstUserInput[1].Bind(form, kListId + 1, L"ListBox", kList, WS_EX_CLIENTEDGE);
+    BindGroup(lblUserPrompt, form, kPromptId, L"Static", SS_LEFT | SS_NOTIFY | WS_GROUP);
+    BindGroup(lblHyperlink, form, kLinkId, L"Button", BS_OWNERDRAW | BS_NOTIFY | kGroup);
+    cmbUserInput.Bind(form, kComboId, L"ComboBox", CBS_DROPDOWNLIST | WS_VSCROLL | kGroup);
+    fraContainer.Bind(form, kFrameId, L"Static", SS_LEFT);
+    for (auto& link : lblHyperlink)
+        link.Font(win::FontFor(win::FontUse::Link));
+}
+
+void InputPool::ClearPage(win::RichText& txtInfo) {
+    txtInfo.Height(layout::kTextHeight);
+    HideGroup(lblHyperlink);
+    HideGroup(optUserInput);
+    HideGroup(chkUserInput);
+    HideGroup(lstUserInput);
+    HideGroup(lblUserPrompt);
+    HideGroup(txtUserInput);
+    cmbUserInput.Visible(false);
+    cmbUserInput.Left(layout::kTextLeft);
+    fraContainer.Visible(false);
+}
+
+void InputPool::SetInputFont(bool oldStyle) {
+    const HFONT font = win::FontFor(oldStyle ? win::FontUse::OldStyle : win::FontUse::Body);
+    for (auto& prompt : lblUserPrompt)
+        prompt.Font(font);
+    for (auto& box : txtUserInput)
+        box.Font(font);
+    lstUserInput[1].Font(font);
+}
+
+InputColumn::InputColumn(frmWizard& form)
+    : form_(form), previous_(&form.txtInfo), top_(form.txtInfo.Bottom() + layout::kGapAfterText) {}
+
+void InputColumn::Put(win::Control& control, win::Twips width, win::Twips height, win::Twips gap) {
+    control.Place(left_, top_, width, height);
+    control.Follows(*previous_);
+    control.Visible(true);
+    previous_ = &control;
+    top_ += height + gap;
+}
+
+win::Label& InputColumn::Prompt(std::size_t index, std::wstring_view text, int lines) {
+    auto& prompt = form_.pool.lblUserPrompt[index];
+    prompt.Text(text);
+    Put(prompt, width_, layout::kPromptHeight * lines, layout::kGapAfterPrompt);
+    return prompt;
+}
+
+win::Button& InputColumn::Option(std::size_t index, std::wstring_view caption, bool selected) {
+    auto& option = form_.pool.optUserInput[index];
+    option.Text(caption);
+    option.Checked(selected);
+    Put(option, layout::kTextWidth, layout::kOptionHeight, layout::kGapBetween);
+    return option;
+}
+
+win::Button& InputColumn::Check(std::size_t index, std::wstring_view caption, bool checked) {
+    auto& box = form_.pool.chkUserInput[index];
+    box.Text(caption);
+    box.Checked(checked);
+    Put(box, layout::kTextWidth, layout::kOptionHeight, layout::kGapBetween);
+    return box;
+}
+
+win::TextBox& InputColumn::TextBox(std::size_t index, std::wstring_view text, int limit) {
+    auto& box = form_.pool.txtUserInput[index];
+    box.Limit(limit);
+    box.Text(text);
+    Put(box, width_, layout::kTextBoxHeight, layout::kGapBetweenGroups);
+    return box;
+}
+
+win::ListBox& InputColumn::List(std::size_t index, win::Twips height) {
+    auto& list = form_.pool.lstUserInput[index];
+    Put(list, width_, height, layout::kGapBetweenGroups);
+    return list;
+}
+
+win::ComboBox& InputColumn::DropDown() {
+    auto& combo = form_.pool.cmbUserInput;
+    const win::Twips top = top_;
+    Put(combo, width_, layout::kDropDownHeight, win::Twips{});
+    top_ = top + layout::kTextBoxHeight + layout::kGapBetweenGroups; // closed, it is one line high
+    return combo;
+}
+
+win::Link& InputColumn::Link(std::size_t index, std::wstring_view caption) {
+    auto& link = form_.pool.lblHyperlink[index];
+    link.Text(caption);
+    // Only as wide as its text: the hand and the click end where the words do.
+    SIZE size{};
+    const HDC dc = GetDC(link.Handle());
+    const HGDIOBJ old = SelectObject(dc, link.Font());
+    GetTextExtentPoint32W(dc, caption.data(), static_cast<int>(caption.size()), &size);
+    SelectObject(dc, old);
+    ReleaseDC(link.Handle(), dc);
+    constexpr int kFocusMargin = 4; // pixels
+    Put(link, std::min(win::Tw(size.cx + kFocusMargin), layout::kTextWidth), layout::kLinkHeight,
+        layout::kGapBetween);
+    return link;
+}
+
+void InputColumn::Options(std::span<const std::wstring_view> captions, std::int16_t selected) {
+    for (std::size_t i = 0; i < captions.size(); ++i)
+        Option(i, captions[i], static_cast<std::int16_t>(i) == selected);
+}
+
+void InputColumn::Checks(std::span<const std::wstring_view> captions, std::int16_t checked) {
+    for (std::size_t i = 0; i < captions.size(); ++i)
+        Check(i, captions[i], (checked >> i & 1) != 0);
+}
+
+void InputColumn::DropDown(std::span<const std::wstring_view> items, std::int16_t selected) {
+    auto& combo = DropDown();
+    combo.Clear();
+    for (const std::wstring_view item : items)
+        combo.Add(item);
+    combo.Index(selected);
+}
+
+std::int16_t SelectedOption(InputPool& pool, std::size_t count) {
+    for (std::size_t i = 0; i < count; ++i)
+        if (pool.optUserInput[i].Checked()) return static_cast<std::int16_t>(i);
+    return 0;
+}
+
+std::int16_t CheckedBits(InputPool& pool, std::size_t count) {
+    int bits = 0;
+    for (std::size_t i = 0; i < count; ++i)
+        if (pool.chkUserInput[i].Checked()) bits |= 1 << i;
+    return static_cast<std::int16_t>(bits);
+}
+
+std::int16_t IndexOrZero(int index) { return static_cast<std::int16_t>(std::max(0, index)); }

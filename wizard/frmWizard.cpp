@@ -1,0 +1,296 @@
+#include "wizard/frmWizard.h"
+
+#include "app/Registry.h"
+#include "app/Settings.h"
+#include "app/SingleInstance.h"
+#include "app/StartUp.h"
+#include "res/Artwork.h"
+#include "win/Fonts.h"
+#include "win/Screen.h"
+#include "wizard/Layout.h"
+#include "wizard/Markup.h"
+#include "wizard/PermissionPage.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <optional>
+
+namespace {
+
+using namespace win::literals;
+
+enum FrameIds {
+    kNextId = 100,
+    kBackId,
+    kSkipId,
+    kHeaderId = 120,
+    kMainId,
+    kLogoId,
+    kScreenLogoId,
+    kVarnelId,
+    kCncIconId,
+    kStepId,
+    kKeyId,
+    kCustInfoId,
+    kInfoId,
+    kAppIconId = 140,
+};
+
+constexpr wchar_t kRunOnceKey[] = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\RunOnce";
+constexpr wchar_t kRunOnceValue[] = L"Varnel_DNC_FTSW";
+constexpr const wchar_t* kStartUpKeys[] = {L"RxNameMode", L"RxChangeNameMode", L"NavAutoStart"};
+
+void FillArea(HDC dc, win::Twips left, win::Twips top, win::Twips right, win::Twips bottom, HBRUSH brush) {
+    const RECT area{win::Px(left), win::Px(top), win::Px(right), win::Px(bottom)};
+    FillRect(dc, &area, brush);
+}
+
+int Luminance(COLORREF colour) {
+    return (299 * GetRValue(colour) + 587 * GetGValue(colour) + 114 * GetBValue(colour)) / 1000;
+}
+
+// The system's colour of links, or of text where a scheme gives links one that the background swallows.
+COLORREF LinkColour() {
+    constexpr int kReadable = 90; // difference of luminance
+    const COLORREF link = GetSysColor(COLOR_HOTLIGHT);
+    const int ground = Luminance(GetSysColor(COLOR_WINDOW));
+    if (std::abs(Luminance(link) - ground) >= kReadable) return link;
+    constexpr COLORREF kUsualLink = RGB(0x00, 0x66, 0xCC);
+    return std::abs(Luminance(kUsualLink) - ground) >= kReadable ? kUsualLink : GetSysColor(COLOR_WINDOWTEXT);
+}
+
+} // namespace
+
+frmWizard::frmWizard(const PageBook& book, bool configAllowed)
+    : ConfigAllowed(configAllowed), book_(book), columnBrush_(CreateSolidBrush(kColumnColour)) {
+    win::LoadRichText();
+    const win::FormLook look{L"VWizardForm", L"", WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN,
+                             WS_EX_CONTROLPARENT, nullptr};
+    const int captionHeight = GetSystemMetrics(SM_CYCAPTION);
+    Create(look, win::FontFor(win::FontUse::Body), win::Px(layout::kWindowWidth),
+           win::Px(layout::kWindowHeight) + captionHeight);
+    BindFrame();
+    BindPictures();
+    pool.Bind(*this);
+    BindButtons();
+
+    cmdNext.onClick = [this] { cmdNext_Click(); };
+    cmdBack.onClick = [this] { cmdBack_Click(); };
+    cmdSkip.onClick = [this] { cmdSkip_Click(); };
+    cmdCancel.onClick = [this] { cmdCancel_Click(); };
+    for (std::size_t i = 0; i < pool.lblHyperlink.size(); ++i)
+        pool.lblHyperlink[i].onClick = [this, i] { lblHyperlink_Click(static_cast<std::int16_t>(i)); };
+}
+
+void frmWizard::BindFrame() {
+    picHeader.Bind(*this, kHeaderId, L"Static", SS_OWNERDRAW | SS_NOTIFY);
+    // Only one of the modes counts steps beside the heading.
+    const win::Twips headingRight =
+        startUp.WizardMode == kNewDevice ? layout::kStepLeft : layout::kWindowWidth;
+    picHeader.Place(layout::kColumnWidth, 0_tw, headingRight - layout::kColumnWidth,
+                    layout::kHeaderHeight - layout::kLineWidth);
+    lblStep.Bind(*this, kStepId, L"Static", SS_RIGHT | SS_NOPREFIX);
+    lblStep.Place(layout::kStepLeft, 210_tw, layout::kStepWidth, layout::kPromptHeight);
+    txtInfo.Bind(*this, kInfoId, win::RichText::kClassName, win::RichText::kStyle | WS_GROUP);
+    txtInfo.Place(layout::kTextLeft, layout::kTextTop, layout::kTextWidth, layout::kTextHeight);
+    picMain.Bind(*this, kMainId, L"Static", SS_LEFT);
+    picMain.Place(0_tw, layout::kMainTop, layout::kWindowWidth, layout::kMainHeight);
+    lblKey.Bind(*this, kKeyId, L"Static", SS_LEFT);
+    lblCustInfo.Bind(*this, kCustInfoId, L"Static", SS_LEFT);
+}
+
+void frmWizard::BindPictures() {
+    struct Place {
+        win::Control* picture;
+        int id;
+        win::Twips left, top, width, height;
+    };
+    const Place places[] = {
+        {&picLogo, kLogoId, 0_tw, 0_tw, layout::kColumnWidth, layout::kHeaderHeight},
+        {&picScreenLogo, kScreenLogoId, 180_tw, 0_tw, 1080_tw, 1080_tw},
+        {&picCncIcon, kCncIconId, 180_tw, 0_tw, 1080_tw, 1080_tw},
+        {&picVarnel, kVarnelId, 120_tw, layout::kRowTop - 480_tw, 1200_tw, 360_tw},
+    };
+    for (const Place& place : places) {
+        place.picture->Bind(*this, place.id, L"Static", SS_OWNERDRAW);
+        place.picture->Place(place.left, place.top, place.width, place.height);
+    }
+    for (std::size_t i = 0; i < picAppIcon.size(); ++i) {
+        picAppIcon[i].Bind(*this, kAppIconId + static_cast<int>(i), L"Static", SS_OWNERDRAW | SS_NOTIFY);
+        picAppIcon[i].Icon(IDI_APP_ICON + static_cast<int>(i));
+    }
+}
+
+void frmWizard::BindButtons() {
+    struct Row {
+        win::Button* button;
+        int id;
+        const wchar_t* caption;
+    };
+    const Row rows[] = {
+        {&cmdSkip, kSkipId, L"&Skip"},
+        {&cmdBack, kBackId, kBackCaption},
+        {&cmdNext, kNextId, kNextCaption},
+        {&cmdCancel, IDCANCEL, L"Cancel"}, // Esc presses the control of this id
+    };
+    int fromRight = static_cast<int>(std::size(rows));
+    for (const Row& row : rows) {
+        row.button->Bind(*this, row.id, L"Button", BS_PUSHBUTTON | BS_NOTIFY | WS_GROUP | WS_TABSTOP);
+        row.button->Place(layout::ButtonLeft(--fromRight), layout::kButtonTop, layout::kButtonWidth,
+                          layout::kButtonHeight);
+        row.button->Text(row.caption);
+    }
+    DefaultButton(cmdNext);
+}
+
+void frmWizard::Form_Load() {
+    SetCurrentDirectoryW(locations.AppPath.c_str());
+    CleanRunOnce();
+    pool.fraContainer.Top(picMain.Top() + 1320_tw);
+    SetWindowTextW(Hwnd(), startUp.WizardTitle.c_str());
+    picCncIcon.Top(600_tw);
+    picScreenLogo.Top(picMain.Top() + 720_tw);
+    (startUp.WizardMode == kNewDevice ? picCncIcon : picScreenLogo).Visible(true);
+    picVarnel.Visible(true);
+    picLogo.Visible(true);
+    book_.load(*this);
+    ShowModeIcon();
+    pool.ClearPage(txtInfo);
+    PageNo = 1;
+    MoveToItsPlace();
+
+    picHeader.Visible(true);
+    txtInfo.SetText(L"Initializing...");
+    txtInfo.Visible(true);
+    ShowWindow(Hwnd(), SW_SHOWNORMAL);
+    win::PumpPendingMessages();
+
+    WriteStartUpKeys();
+    ConfirmExit = true;
+    for (std::size_t i = 0; i < picAppIcon.size(); ++i)
+        picAppIcon[i].Place(1560_tw + 960_tw * static_cast<int>(i), layout::kAppIconTop, 480_tw, 480_tw);
+    cmdSkip.Visible(startUp.WizardMode == kFirstTimeSetup);
+    cmdBack.Visible(true);
+    cmdNext.Visible(true);
+    cmdCancel.Visible(true);
+    if (ConfigAllowed)
+        ShowPage();
+    else
+        PageConfigDisabled(*this);
+}
+
+void frmWizard::ShowModeIcon() {
+    const int icon = IDI_DEVICE + startUp.WizardMode;
+    largeIcon_.emplace(icon, GetSystemMetrics(SM_CXICON));
+    smallIcon_.emplace(icon, GetSystemMetrics(SM_CXSMICON));
+    SendMessageW(Hwnd(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(largeIcon_->Get()));
+    SendMessageW(Hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(smallIcon_->Get()));
+}
+
+// The installer makes the wizard run once at the next log-on; a start by hand takes that back.
+void frmWizard::CleanRunOnce() {
+    if (!ReadRegString(HKEY_LOCAL_MACHINE, kRunOnceKey, kRunOnceValue, L"").empty())
+        DeleteRegValue(HKEY_LOCAL_MACHINE, kRunOnceKey, kRunOnceValue);
+}
+
+void frmWizard::MoveToItsPlace() {
+    RECT window{};
+    GetWindowRect(Hwnd(), &window);
+    const int freeWidth = GetSystemMetrics(SM_CXSCREEN) - (window.right - window.left);
+    const int freeHeight = GetSystemMetrics(SM_CYSCREEN) - (window.bottom - window.top);
+    const int divisor = startUp.ShiftWindow ? 1 : 2;
+    SetWindowPos(Hwnd(), nullptr, freeWidth / divisor, freeHeight / divisor, 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+// Whatever they held before, on every start of either wizard. All three are tried, one failure is told.
+void frmWizard::WriteStartUpKeys() {
+    std::optional<win::AppError> refused;
+    for (const wchar_t* key : kStartUpKeys) {
+        try {
+            WriteIniString(key, L"1");
+        } catch (const win::AppError& error) {
+            refused = error;
+        }
+    }
+    if (refused) win::ShowMessageBox(Hwnd(), refused->Description(), MB_OK | MB_ICONEXCLAMATION);
+}
+
+void frmWizard::WriteHeading(std::wstring_view heading) {
+    picHeader.Text(heading);
+    picHeader.Repaint();
+}
+
+void frmWizard::WriteInfo(std::wstring_view text) {
+    constexpr win::Twips kTallest = layout::kContentBottom - layout::kTextTop;
+    txtInfo.Send(WM_SETREDRAW, FALSE);
+    txtInfo.Height(kTallest);
+    txtInfo.SetText(text);
+    FormatInfo(txtInfo);
+    txtInfo.ScrollToTop();
+    txtInfo.Height(std::min(txtInfo.TextHeight(), kTallest));
+    txtInfo.Send(WM_SETREDRAW, TRUE);
+    txtInfo.Repaint();
+}
+
+LRESULT frmWizard::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_ERASEBKGND:
+        PaintBackground(reinterpret_cast<HDC>(wParam));
+        return TRUE;
+    case WM_CLOSE:
+        Unload();
+        return 0;
+    case WM_QUERYENDSESSION:
+        return Form_QueryUnload();
+    case WM_ENDSESSION:
+        if (wParam) Form_Unload();
+        return 0;
+    case WM_SYSCOLORCHANGE:
+        RedrawWindow(Hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+        return 0;
+    default:
+        return Form::OnMessage(message, wParam, lParam);
+    }
+}
+
+void frmWizard::PaintBackground(HDC dc) {
+    const win::Twips right = layout::kWindowWidth;
+    const win::Twips line = layout::kLineWidth;
+    FillArea(dc, 0_tw, 0_tw, right, layout::kRowTop, GetSysColorBrush(COLOR_WINDOW));
+    FillArea(dc, 0_tw, layout::kMainTop, layout::kColumnWidth, layout::kRowTop, columnBrush_.Get());
+    FillArea(dc, layout::kColumnWidth, layout::kMainTop - line, right, layout::kMainTop,
+             GetSysColorBrush(COLOR_BTNSHADOW));
+    FillArea(dc, 0_tw, layout::kRowTop, right, layout::kWindowHeight, GetSysColorBrush(COLOR_BTNFACE));
+    FillArea(dc, 0_tw, layout::kRowTop, right, layout::kRowTop + line, GetSysColorBrush(COLOR_BTNSHADOW));
+}
+
+void frmWizard::OnDrawItem(win::Control& control, const DRAWITEMSTRUCT& item) {
+    if (&control == &picHeader) return DrawHeading(item);
+    if (auto* picture = dynamic_cast<win::PictureArea*>(&control)) return picture->Draw(item);
+    if (auto* icon = dynamic_cast<win::IconArea*>(&control)) return icon->Draw(item);
+    DrawLink(control, item);
+}
+
+void frmWizard::DrawHeading(const DRAWITEMSTRUCT& item) {
+    FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_WINDOW));
+    const HGDIOBJ old = SelectObject(item.hDC, win::FontFor(win::FontUse::Heading));
+    SetTextColor(item.hDC, GetSysColor(COLOR_WINDOWTEXT));
+    SetBkMode(item.hDC, TRANSPARENT);
+    const std::wstring heading = picHeader.Text();
+    TextOutW(item.hDC, win::Px(layout::kHeadingLeft), win::Px(layout::kHeadingTop), heading.c_str(),
+             static_cast<int>(heading.size()));
+    SelectObject(item.hDC, old);
+}
+
+void frmWizard::DrawLink(win::Control& link, const DRAWITEMSTRUCT& item) {
+    FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_WINDOW));
+    const HGDIOBJ old = SelectObject(item.hDC, link.Font());
+    SetTextColor(item.hDC, LinkColour());
+    SetBkMode(item.hDC, TRANSPARENT);
+    RECT area = item.rcItem;
+    const std::wstring caption = link.Text();
+    DrawTextW(item.hDC, caption.c_str(), -1, &area, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
+    SelectObject(item.hDC, old);
+    if (item.itemState & ODS_FOCUS) DrawFocusRect(item.hDC, &item.rcItem);
+}
