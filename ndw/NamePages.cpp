@@ -1,0 +1,84 @@
+// First and last pages of the New Device Wizard: introduction, name, finish.
+
+#include "app/Launch.h"
+#include "app/StartUp.h"
+#include "app/modLocations.h"
+#include "ndw/NdwCreateConfig.h"
+#include "ndw/NdwPages.h"
+#include "wizard/frmWizard.h"
+
+namespace {
+
+constexpr int kNameLimit = 250; // characters; a path holds 259
+
+} // namespace
+
+void PageNdwIntroduction(frmWizard& form) {
+    form.WriteHeading(L"New CNC Configuration");
+    form.WriteInfo(
+        L"This wizard creates a configuration file for one CNC machine tool.\r\n\r\n"
+        L"Each page asks for one setting. Have these ready:\r\n"
+        L"<u>the number of the COM port that the CNC cable is connected to</u>\r\n"
+        L"<u>the communication parameters of the CNC (baud rate, parity, flow control)</u>\r\n"
+        L"<u>a name for the new configuration</u>\r\n\r\n"
+        L"If you do not know a setting, keep the value shown. You can change every setting later in Varnel "
+        L"DNC Configuration (VConfig).\r\n\r\n"
+        L"Click <b>Next</b> to continue.");
+    InputColumn(form).Link(0, L"Setup Reference manual");
+}
+
+void PageNdwIntro2(frmWizard& form) {
+    form.WriteHeading(L"Before You Begin");
+    form.WriteInfo(L"The settings in this wizard must match the communication parameters of the CNC.\r\n\r\n"
+                   L"If this CNC has not been connected before:\r\n"
+                   L"<u>check that the cable is the right one for the control</u>\r\n"
+                   L"<u>test the connection with the terminal program</u>\r\n"
+                   L"<u>write down the communication parameters shown on the control</u>");
+    InputColumn column(form);
+    column.Link(0, L"Help: testing communication");
+    column.Link(1, L"Setup Reference manual");
+    column.Link(2, L"Varnel DNC Terminal (VTerminal)");
+}
+
+void PageNdwName(frmWizard& form) {
+    form.WriteHeading(L"Configuration Name");
+    form.WriteInfo(
+        L"Type a name for the new configuration, for example the name or number of the machine.\r\n\r\n"
+        L"Do not use any of these characters: / \\ : * ? \" < > |\r\n\r\n" +
+        SummaryText(ndwSession.answers) +
+        L"\r\n\r\nClick <b>Create</b> to choose an icon and save the configuration.");
+    InputColumn column(form);
+    column.Prompt(0, L"Configuration &name");
+    column.TextBox(0, ndwSession.answers.name, kNameLimit).Focus();
+}
+
+void LeaveNdwName(frmWizard& form, Move move) {
+    auto& box = form.pool.txtUserInput[0];
+    ndwSession.answers.name = box.Text();
+    if (move != Move::Next) return;
+    NdwCreateConfig(form);
+    if (!form.StayOnPage) return;
+    box.Focus();
+    box.SelectAll();
+}
+
+void PageNdwFinal(frmWizard& form) {
+    form.WriteHeading(L"Finished");
+    const std::wstring next = startUp.ConfigLaunch
+                                  ? L"Click <b>Finish</b> to open it in Varnel DNC Configuration (VConfig)."
+                                  : L"Click <b>New</b> to create a configuration for another CNC.\r\n\r\n"
+                                    L"Click <b>Finish</b> to close this wizard.";
+    form.WriteInfo(L"The configuration <b>" + form.ConfigName +
+                   L"</b> has been created.\r\n\r\nIt is stored in the file " +
+                   ConfigurationFile(form.ConfigName) + L"\r\n\r\n" + next);
+    InputColumn column(form);
+    column.Link(0, L"Open in Varnel DNC Configuration (VConfig)");
+    column.Link(1, L"Technical notes");
+}
+
+void LeaveNdwFinal(frmWizard& form, Move move) {
+    if (move != Move::Next) return;
+    if (startUp.ConfigLaunch) RunProgram(L"VConfig.exe", L" " + form.ConfigName);
+    form.ConfirmExit = false;
+    form.EndProgram();
+}

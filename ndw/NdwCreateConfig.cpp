@@ -1,0 +1,79 @@
+#include "ndw/NdwCreateConfig.h"
+
+#include "app/Files.h"
+#include "app/Names.h"
+#include "app/Text.h"
+#include "app/modLocations.h"
+#include "ndw/DcpFile.h"
+#include "ndw/NdwPages.h"
+#include "ndw/modDcp.h"
+#include "shell/frmIcons.h"
+#include "wizard/frmWizard.h"
+
+namespace {
+
+constexpr std::size_t kLongestPath = 259; // characters, without the NUL
+
+constexpr wchar_t kTryAgain[] = L"\r\n\r\nTry a different name.";
+
+std::wstring InvalidCharactersMessage() {
+    std::wstring list(10, L' ');
+    for (const wchar_t c : kInvalidNameChars)
+        list += std::wstring(1, c) + L"  ";
+    return L"The name you specified contains one or more\r\nof the following invalid characters:\r\n" + list;
+}
+
+// This run's own file that could not be written whole may be tried again under its name.
+bool IsUsed(const std::wstring& path) {
+    return FileExists(path) && lstrcmpiW(path.c_str(), ndwSession.failedFile.c_str()) != 0;
+}
+
+// What is wrong with a name, "" when nothing is. The last checks keep the file from going to a port or
+// under another name than the one typed.
+std::wstring NameProblem(const std::wstring& name, const std::wstring& path) {
+    if (name.empty()) return L"You must specify a valid name to continue.";
+    if (!IsValidName(name)) return InvalidCharactersMessage() + kTryAgain;
+    if (IsUsed(path))
+        return std::wstring(L"The configuration name you specified is already used.") + kTryAgain;
+    if (IsReservedName(name))
+        return std::wstring(L"The name you specified is reserved by Windows for a device.") + kTryAgain;
+    if (EndsInDot(name)) return std::wstring(L"The name you specified ends in a dot.") + kTryAgain;
+    if (HasControlChar(name))
+        return std::wstring(L"The name you specified contains a control character.") + kTryAgain;
+    if (const auto foreign = FirstNotInAnsi(name))
+        return L"The name you specified contains the character \"" + *foreign +
+               L"\", which Varnel DNC cannot store." + kTryAgain;
+    if (path.size() > kLongestPath) return std::wstring(L"The name you specified is too long.") + kTryAgain;
+    return {};
+}
+
+// The write itself, told when it fails.
+bool Write(frmWizard& form, const std::wstring& path) {
+    const bool failed = !WriteDcpFile(path);
+    ndwSession.failedFile = failed ? path : std::wstring();
+    if (failed)
+        win::ShowMessageBox(form.Hwnd(), L"The configuration file could not be written:\r\n" + path,
+                            MB_OK | MB_ICONEXCLAMATION);
+    return !failed;
+}
+
+} // namespace
+
+void NdwCreateConfig(frmWizard& form) {
+    const std::wstring name = TrimBlanks(ndwSession.answers.name);
+    const std::wstring path = ConfigurationFile(name);
+    const std::wstring problem = NameProblem(name, path);
+    form.StayOnPage = true;
+    if (!problem.empty()) {
+        win::ShowMessageBox(form.Hwnd(), problem, MB_OK | MB_ICONEXCLAMATION);
+        return;
+    }
+    SetDcpHeaderDefaults(dcpRecords.header);
+    SetDcpRecord4Defaults(dcpRecords.record4);
+    FillDcpRecords(dcpRecords, ndwSession.answers, NdwPickIcon(form.Hwnd()));
+    if (!Write(form, path)) return;
+    form.StayOnPage = false;
+    form.ConfigWritten = true;
+    form.ConfigName = name;
+    ndwSession.answers.name.clear();
+}

@@ -1,0 +1,43 @@
+#include "ndw/NdwPages.h"
+
+#include "app/Launch.h"
+#include "app/StartUp.h"
+#include "app/modLocations.h"
+#include "wizard/frmWizard.h"
+
+NdwSession ndwSession;
+
+namespace {
+
+constexpr int kSteps = 14; // pages 3 to 16
+
+void Load(frmWizard&) { NdwSetDefaults(); }
+
+void BeforeShow(frmWizard& form) {
+    const bool isFinal = form.PageNo == kNdwFinalPage;
+    form.cmdBack.Text(isFinal ? kNewCaption : kBackCaption);
+    if (isFinal && startUp.ConfigLaunch) form.cmdBack.Visible(false);
+    const bool isStep = form.PageNo >= kNdwPortPage && form.PageNo <= kNdwNamePage;
+    form.lblStep.Text(L"Step " + std::to_wstring(form.PageNo - 2) + L"/" + std::to_wstring(kSteps));
+    form.lblStep.Visible(isStep);
+    if (form.PageNo == kNdwPortPage) form.ConfigWritten = false;
+}
+
+bool TakesOverNext(frmWizard&) { return false; }
+
+// The user has closed the wizard after making a configuration for VConfig: hand it over all the same. The
+// path has a second backslash here, as in every version of the suite.
+void Exiting(frmWizard& form) {
+    if (startUp.ConfigLaunch && form.ConfigWritten)
+        RunCommandLine(L"\"" + locations.ProgramFolder + L"\\VConfig.exe\" " + form.ConfigName);
+}
+
+constexpr PageBook kBook{kNdwPages, false, Load, BeforeShow, TakesOverNext, NdwHyperlink, Exiting};
+
+} // namespace
+
+const PageBook& NdwBook() { return kBook; }
+
+void NdwSetDefaults() { ndwSession = {NdwDefaultAnswers(), {}}; }
+
+bool LeavesOutCharacterFormat() { return ndwSession.answers.dataFormatIndex != kAsciiDataFormat; }

@@ -1,0 +1,119 @@
+// Pages of the New Device Wizard about what is sent to the machine: end of block, prefix, suffix, line
+// removal, filters, trigger.
+
+#include "ndw/AnswerText.h"
+#include "ndw/NdwPages.h"
+#include "wizard/frmWizard.h"
+
+#include <span>
+
+namespace {
+
+constexpr std::size_t kCodesPrompt = 0; // the line that shows the codes
+constexpr int kCodesLines = 2;
+
+using CodesOf = std::wstring (*)(const NdwAnswers&);
+using Choice = std::int16_t NdwAnswers::*;
+
+void ShowCodes(frmWizard& form, CodesOf codesOf) {
+    const std::wstring codes = codesOf(ndwSession.answers);
+    std::wstring line = L"Codes stored: " + (codes.empty() ? L"none" : StoredCodes(codes));
+    if (!CodesFit(codes)) line += L"\r\nOnly the first 10 characters fit; " + codes + L" is cut.";
+    form.pool.lblUserPrompt[kCodesPrompt].Text(line);
+}
+
+// Check boxes, below them the codes that they make, kept up to date, and the help link.
+void BuildCodesPage(frmWizard& form, std::span<const std::wstring_view> captions, Choice choice,
+                    CodesOf codesOf) {
+    InputColumn column(form);
+    column.Checks(captions, ndwSession.answers.*choice);
+    for (std::size_t i = 0; i < captions.size(); ++i)
+        form.pool.chkUserInput[i].onClick = [&form, captions, choice, codesOf] {
+            ndwSession.answers.*choice = CheckedBits(form.pool, captions.size());
+            ShowCodes(form, codesOf);
+        };
+    column.Gap(layout::kGapAfterPrompt);
+    column.Width(layout::kTextWidth);
+    column.Prompt(kCodesPrompt, L"", kCodesLines);
+    ShowCodes(form, codesOf);
+    column.Link(0, L"Help: character codes");
+}
+
+} // namespace
+
+void PageNdwEOB(frmWizard& form) {
+    form.WriteHeading(L"End of Block");
+    form.WriteInfo(
+        L"Choose the characters that end each block (line) of a program sent to the CNC.\r\n\r\n"
+        L"CR is carriage return, LF is line feed. <b>CR + LF</b> suits many CNCs; if the CNC shows an "
+        L"empty block after every block, try <b>LF Only</b>.");
+    InputColumn(form).Options(kEndOfBlocks, ndwSession.answers.endOfBlockIndex);
+}
+
+void LeaveNdwEOB(frmWizard& form, Move) {
+    ndwSession.answers.endOfBlockIndex = SelectedOption(form.pool, kEndOfBlocks.size());
+}
+
+void PageNdwPrefix(frmWizard& form) {
+    form.WriteHeading(L"Transmit Prefix");
+    form.WriteInfo(
+        L"Choose the codes that Varnel DNC sends before a program, in the order shown.\r\n\r\n"
+        L"Most CNCs expect <b>%</b> with an end of block before or after it. The CNC's manual shows what "
+        L"it needs.");
+    BuildCodesPage(form, kPrefixChoices, &NdwAnswers::prefixChoice, PrefixCodes);
+}
+
+void LeaveNdwPrefix(frmWizard& form, Move) {
+    ndwSession.answers.prefixChoice = CheckedBits(form.pool, kPrefixChoices.size());
+}
+
+void PageNdwSuffix(frmWizard& form) {
+    form.WriteHeading(L"Transmit Suffix");
+    form.WriteInfo(L"Choose the codes that Varnel DNC sends after a program, in the order shown.\r\n\r\n"
+                   L"Many CNCs take <b>%</b> as the end of the program.");
+    BuildCodesPage(form, kSuffixChoices, &NdwAnswers::suffixChoice, SuffixCodes);
+}
+
+void LeaveNdwSuffix(frmWizard& form, Move) {
+    ndwSession.answers.suffixChoice = CheckedBits(form.pool, kSuffixChoices.size());
+}
+
+void PageNdwFiltLines(frmWizard& form) {
+    form.WriteHeading(L"Line Removal");
+    form.WriteInfo(
+        L"Varnel DNC can leave out certain lines when it sends a program to the CNC.\r\n\r\n"
+        L"Type the character or text (up to 10 characters) that marks these lines. Leave the box empty to "
+        L"send every line.");
+    InputColumn column(form);
+    column.Prompt(0, L"&Remove lines marked with");
+    column.TextBox(0, ndwSession.answers.removedLines, static_cast<int>(kCodesLength)).Focus();
+}
+
+void LeaveNdwFiltLines(frmWizard& form, Move move) {
+    StoreFileText(form, form.pool.txtUserInput[0], move, ndwSession.answers.removedLines);
+}
+
+void PageNdwFiltOpts(frmWizard& form) {
+    form.WriteHeading(L"Filter Options");
+    form.WriteInfo(
+        L"Choose what Varnel DNC removes or changes while it sends a program.\r\n\r\n"
+        L"If you are not sure, leave all options off. Try a new setting with a short program first, and "
+        L"check what arrives in the CNC.");
+    InputColumn(form).Checks(kFilterOptions, ndwSession.answers.filterOptions);
+}
+
+void LeaveNdwFiltOpts(frmWizard& form, Move) {
+    ndwSession.answers.filterOptions = CheckedBits(form.pool, kFilterOptions.size());
+}
+
+void PageNdwTxTrigger(frmWizard& form) {
+    form.WriteHeading(L"Transmit Trigger");
+    form.WriteInfo(
+        L"Choose what starts the transmission after you tell Varnel DNC to send a program.\r\n\r\n"
+        L"With software flow control the CNC usually sends XON (DC1) when it is ready to receive.");
+    InputColumn(form).Options(kTransmitTriggers, ndwSession.answers.transmitTriggerIndex);
+}
+
+void LeaveNdwTxTrigger(frmWizard& form, Move) {
+    ndwSession.answers.transmitTriggerIndex = SelectedOption(form.pool, kTransmitTriggers.size());
+}

@@ -1,0 +1,3 @@
+#include "shell/frmIcons.h"
+
+std::wstring NdwPickIcon(HWND) { return {}; }
