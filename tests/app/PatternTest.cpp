@@ -31,6 +31,7 @@ TEST(Pattern, Matches) {
         {L"m",           L"[!a-k]",         true },
         {L"c",           L"[!a-k]",         false},
         {L"",            L"[!a]",           false},
+        {L"-",           L"[a-z]",          false},
         {L"-",           L"[-a]",           true },
         {L"-",           L"[a-]",           true },
         {L"-",           L"[!-]",           false},

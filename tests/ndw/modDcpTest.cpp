@@ -150,6 +150,12 @@ TEST(modDcp, TheFileIsReadOnlyWhenItIsOne) {
     EXPECT_EQ(records.header.removedLines, L"          ");
     EXPECT_EQ(DcpPortNumber(AsBytes(file)), 300);
 
+    const std::string unprepared = DcpByHand().With(49, "x").With(486, "(").Bytes();
+    ASSERT_TRUE(ReadDcpBytes(AsBytes(unprepared), records));
+    PrepareForWriting(records);
+    ExpectBytes(AsText(records), DcpByHand().With(486, "(").With(1165, "(").Bytes());
+    ASSERT_TRUE(ReadDcpBytes(AsBytes(file), records));
+
     std::string otherSignature = file;
     otherSignature[8] = 'X';
     for (const std::string& wrong : {otherSignature, file.substr(1), file + " ", std::string()}) {
