@@ -61,7 +61,7 @@ struct PictureRow {
 constexpr PictureRow kPictures[] = {
     {"picScreenLogo", IDB_SCREEN_LOGO, {72, 72}},
     {"picCncIcon",    IDB_CNC_ICON,    {72, 72}},
-    {"picLogo",       IDB_LOGO,        {32, 32}},
+    {"picLogo",       IDB_LOGO,        {96, 40}},
     {"picVarnel",     IDB_VARNEL,      {80, 24}},
 };
 
