@@ -228,8 +228,10 @@ void frmWizard::WriteInfo(std::wstring_view text) {
     txtInfo.SetText(text);
     FormatInfo(txtInfo);
     txtInfo.ScrollToTop();
-    txtInfo.Height(std::min(txtInfo.TextHeight(), kTallest));
+    const win::Twips needed = std::min(txtInfo.TextHeight(), kTallest);
     txtInfo.Send(WM_SETREDRAW, TRUE);
+    // With redrawing still off the form would not repaint what the shorter text area uncovers.
+    txtInfo.Height(needed);
     txtInfo.Repaint();
 }
 
