@@ -15,7 +15,7 @@ fi
 suite=build/suite
 work=build/tour-$dpi
 mkdir -p build/pages "$work"
-rm -f "$work"/*.bmp "$suite/Settings/Tour Mill.DCP"
+rm -f "$work/display" "$work"/*.bmp "$suite/Settings/Tour Mill.DCP"
 lay_out_suite "$suite"
 
 Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp 3> "$work/display" 2> /dev/null &

@@ -144,7 +144,9 @@ class Tour {
 
     bool Fail(const wchar_t* reason) const {
         std::printf("step %d: %ls\n", step_, reason);
-        if (main_ != nullptr) std::printf("%ls\n", Contents(main_).c_str());
+        for (const HWND window : WindowsOf(process_.dwProcessId))
+            std::printf("%ls \"%ls\"\n%ls", ClassOf(window).c_str(), TextOf(window).c_str(),
+                        Contents(window).c_str());
         if (process_.hProcess != nullptr) TerminateProcess(process_.hProcess, 1);
         return false;
     }
