@@ -12,6 +12,7 @@ void PageNdwPort(frmWizard& form) {
                    L"<b>Ports (COM & LPT)</b>. USB/serial adapters are listed there too.");
     InputColumn column(form);
     column.Prompt(0, L"&COM port");
+    column.Width(layout::kTextWidth); // notes stand behind the numbers
     auto& ports = column.DropDown();
     ports.Clear();
     for (const std::wstring& caption : PortCaptions())

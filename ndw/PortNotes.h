@@ -1,7 +1,22 @@
 #pragma once
 
+// What is known of the serial ports: which ones this computer has and which other configurations use. A
+// help for the user's choice, never a bar.
+
+#include <windows.h>
+
+#include <map>
+#include <set>
 #include <string>
 #include <vector>
 
-// "COM1" to "COM256", each with a note when this computer has the port or another configuration uses it.
+// Port numbers of the computer's serial device map: the values below `subKey` of `root` that read "COMn".
+std::set<int> PortsOfComputer(HKEY root, const wchar_t* subKey);
+
+// Port number to the names of the configurations in `folder` (ends in a backslash) that use it. Files of
+// another length or signature, locked ones and folders are passed over. Reading stops after 200 ms; what
+// was not read by then is missing.
+std::map<int, std::vector<std::wstring>> PortsInUse(const std::wstring& folder);
+
+// "COM1" to "COM256" with their notes, for this computer and the suite's settings folder.
 std::vector<std::wstring> PortCaptions();

@@ -15,7 +15,7 @@
 // offset. Flags are -1 or 0. Texts hold code 0 until they are assigned, and are written so.
 
 inline constexpr wchar_t kDcpSignature[] = L"VDNCW32A ";
-inline constexpr wchar_t kEndOfFileMarker[] = L""; // where text viewers stop
+inline constexpr wchar_t kEndOfFileMarker[] = L"\x1A"; // where text viewers stop
 inline constexpr std::size_t kDcpFileSize = 5449;
 
 struct DcpHeader {
@@ -27,7 +27,7 @@ struct DcpHeader {
     std::int16_t unknown72 = 0;
     FixedText<10> unknown74;
     FixedText<30> unknown84;
-    FixedText<64> iconName;      // the icon file without ".ico"
+    FixedText<64> iconName;      // file name of the icon, or the default's name
     std::int16_t portNumber = 0; // 1 is COM1
     std::int16_t unknown180 = 0;
     std::int16_t unknown182 = 0;
