@@ -26,6 +26,7 @@ inline constexpr Twips kColumnWidth = 1440_tw;
 inline constexpr Twips kTextLeft = 1560_tw;
 inline constexpr Twips kTextRight = 7290_tw;
 inline constexpr Twips kTextWidth = kTextRight - kTextLeft;
+inline constexpr Twips kTextInset = 15_tw; // of the text inside its control: lines it up with the inputs
 inline constexpr Twips kTextTop = kMainTop + 120_tw;
 inline constexpr Twips kTextHeight = 2175_tw; // until a page says otherwise
 inline constexpr Twips kContentBottom = kRowTop - 60_tw;

@@ -92,7 +92,8 @@ void frmWizard::BindFrame() {
     lblStep.Bind(*this, kStepId, L"Static", SS_RIGHT | SS_NOPREFIX);
     lblStep.Place(layout::kStepLeft, 210_tw, layout::kStepWidth, layout::kPromptHeight);
     txtInfo.Bind(*this, kInfoId, win::RichText::kClassName, win::RichText::kStyle | WS_GROUP);
-    txtInfo.Place(layout::kTextLeft, layout::kTextTop, layout::kTextWidth, layout::kTextHeight);
+    txtInfo.Place(layout::kTextLeft - layout::kTextInset, layout::kTextTop, layout::kTextWidth,
+                  layout::kTextHeight);
     picMain.Bind(*this, kMainId, L"Static", SS_LEFT);
     picMain.Place(0_tw, layout::kMainTop, layout::kWindowWidth, layout::kMainHeight);
     lblKey.Bind(*this, kKeyId, L"Static", SS_LEFT);
