@@ -30,6 +30,19 @@ std::wstring ReadIniString(const std::wstring& section, const std::wstring& key,
     return value.empty() ? defaultText : value;
 }
 
+std::wstring ReadWholeIniString(const std::wstring& section, const std::wstring& key) {
+    constexpr std::size_t kLongest = 1 << 24; // far beyond what the system reads
+    std::string buffer(1024, '\0');
+    for (;;) {
+        const std::size_t length =
+            GetPrivateProfileStringA(ToAnsi(section).c_str(), ToAnsi(key).c_str(), "", buffer.data(),
+                                     static_cast<DWORD>(buffer.size()), ToAnsi(locations.IniFile).c_str());
+        const bool isCut = length + 1 >= buffer.size();
+        if (!isCut || buffer.size() >= kLongest) return FromAnsi({buffer.data(), length});
+        buffer.resize(buffer.size() * 2);
+    }
+}
+
 std::wstring ReadProfileString(const std::wstring& file, const std::wstring& section, const std::wstring& key,
                                const std::wstring& defaultText) {
     std::wstring value = TrimBlanks(ReadValue(file, section, key));

@@ -2,7 +2,7 @@
 
 // The suite's settings file, VarnelDnc.ini: 8-bit ANSI text, read and written only through the system's
 // profile functions. Reading never fails: a missing file, section or key, and an empty value, are the
-// caller's default. A value is read up to 254 characters.
+// caller's default. A value is read up to 254 characters, as all programs of the suite do.
 
 #include "win/AppError.h"
 
@@ -11,7 +11,10 @@
 std::wstring ReadIniString(const std::wstring& section, const std::wstring& key,
                            const std::wstring& defaultText);
 
-// The same for any file; the one reader that trims blanks.
+// The value however long it is; "" when it is absent. For a value that is to be written back.
+std::wstring ReadWholeIniString(const std::wstring& section, const std::wstring& key);
+
+// As ReadIniString for any file; the one reader that trims blanks.
 std::wstring ReadProfileString(const std::wstring& file, const std::wstring& section, const std::wstring& key,
                                const std::wstring& defaultText);
 

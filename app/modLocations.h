@@ -41,5 +41,8 @@ inline constexpr wchar_t kIniName[] = L"VarnelDnc.ini";
 inline constexpr wchar_t kSuiteFolder[] = L"Varnel DNC\\";
 inline constexpr wchar_t kConfigurationExtension[] = L".DCP";
 
+// Name of the folder of CNC programs that the wizard offers, in the documents of all users.
+inline constexpr wchar_t kDefaultCncFolder[] = L"CNC Programs";
+
 // Settings folder, configuration name, ".DCP".
 std::wstring ConfigurationFile(std::wstring_view name);

@@ -2,18 +2,17 @@
 
 // The First-Time Setup Wizard: its table of pages, what it keeps while it runs, and its page builders.
 
+#include "ftw/TransmitRoot.h"
 #include "wizard/Page.h"
 
 #include <cstdint>
-#include <string>
 
 class frmWizard;
 
 struct FtwSession {
-    std::int16_t maxProgress = 0;   // FTSW_MaxProgress as it was at load
-    bool keepConfiguration = false; // the user keeps what is configured
-    std::wstring location; // folders of CNC files as typed, separated by ";"; empty: the whole computer
-    bool floppy = false;   // "A:" is added to the stored folders
+    std::int32_t maxProgress = 0;       // FTSW_MaxProgress as it was at load
+    bool keepConfiguration = false;     // the user keeps what is configured
+    CncLocation location;               // as typed
     std::int16_t shortcutChoice = 0xFF; // bit 0 desktop, 1 Start menu, 2 Quick Launch bar
     int selectedSamples = 0;            // on the import page, when it was left
 };
@@ -51,30 +50,41 @@ void LeaveFtwFinal(frmWizard& form, Move move);
 // Next on the setup-mode page: acts on the chosen mode and moves on by itself.
 void ChooseInstallType(frmWizard& form);
 
+// Stores the location and creates its folder. A failed write is told, a failed creation is not.
+void SaveTransmitRoot(frmWizard& form);
+
+// Copies the samples that are selected on the import page into the settings folder.
+void ImportSelectedSamples(frmWizard& form);
+
 // Without a selected sample there is nothing to edit.
 bool NoSampleSelected();
 
 inline constexpr std::int16_t kFtwChoosePage = 2;
 
-inline constexpr Detour kStraight{};
-
 // The numbers 4 to 6 belong to no page, so that the stored progress keeps its meaning.
+inline constexpr Detour kStraight{};
+inline constexpr Detour kPastNumbers{3};
+inline constexpr Detour kBackPastNumbers{-3};
+inline constexpr Detour kPastOne{1};
+inline constexpr Detour kBackPastOne{-1};
+inline constexpr Detour kPastEditing{1, NoSampleSelected};
+
 // clang-format off
 inline constexpr Page kFtwPages[] = {
-    // no  builder                 leave action             on Next                on Back    on Skip    Next's caption  Skip       Back
-    { 1, PageFtwWelcome,         nullptr,                 kStraight,             kStraight, kStraight, kNextCaption,   Show::Yes, Show::No },
-    { 2, PageFtwChoose,          nullptr,                 kStraight,             kStraight, kStraight, kNextCaption,   Show::Yes, Show::Yes},
-    { 3, PageFtwIntroduction,    nullptr,                 {3, nullptr},          kStraight, {3, nullptr}, kNextCaption, Show::Yes, Show::Yes},
-    { 7, PageFtwGetStarted,      LeaveFtwGetStarted,      kStraight,             {-3, nullptr}, kStraight, kNextCaption, Show::Yes, Show::Yes},
-    { 8, PageFtwShortcuts,       LeaveFtwShortcuts,       kStraight,             kStraight, kStraight, kNextCaption,   Show::Yes, Show::Yes},
-    { 9, PageFtwLocation,        LeaveFtwLocation,        kStraight,             kStraight, {1, nullptr}, kNextCaption, Show::Yes, Show::Yes},
-    {10, PageFtwConfirmLocation, LeaveFtwConfirmLocation, kStraight,             kStraight, kStraight, kNextCaption,   Show::Yes, Show::Yes},
-    {11, PageFtwAboutConfig,     nullptr,                 kStraight,             {-1, nullptr}, kStraight, kNextCaption, Show::Yes, Show::Yes},
-    {12, PageFtwImportSample,    LeaveFtwImportSample,    {1, NoSampleSelected}, kStraight, {1, nullptr}, kNextCaption, Show::Yes, Show::Yes},
-    {13, PageFtwEditSample,      nullptr,                 kStraight,             kStraight, kStraight, kNextCaption,   Show::Yes, Show::Yes},
-    {14, PageFtwCreateConfig,    nullptr,                 kStraight,             {-1, nullptr}, kStraight, kNextCaption, Show::Yes, Show::Yes},
-    {15, PageFtwCaution,         nullptr,                 kStraight,             kStraight, kStraight, kNextCaption,   Show::Yes, Show::Yes},
-    {16, PageFtwBackup,          LeaveFtwBackup,          kStraight,             kStraight, kStraight, kNextCaption,   Show::Yes, Show::Yes},
-    {17, PageFtwFinal,           LeaveFtwFinal,           kStraight,             kStraight, kStraight, kFinishCaption, Show::No,  Show::Yes},
+    // no  builder                 leave action             on Next       on Back           on Skip       Next's caption  Skip       Back
+    { 1, PageFtwWelcome,         nullptr,                 kStraight,    kStraight,        kStraight,    kNextCaption,   Show::No,  Show::No },
+    { 2, PageFtwChoose,          nullptr,                 kStraight,    kStraight,        kStraight,    kNextCaption,   Show::No,  Show::Yes},
+    { 3, PageFtwIntroduction,    nullptr,                 kPastNumbers, kStraight,        kPastNumbers, kNextCaption,   Show::No,  Show::Yes},
+    { 7, PageFtwGetStarted,      LeaveFtwGetStarted,      kStraight,    kBackPastNumbers, kStraight,    kNextCaption,   Show::Yes, Show::Yes},
+    { 8, PageFtwShortcuts,       LeaveFtwShortcuts,       kStraight,    kStraight,        kStraight,    kNextCaption,   Show::Yes, Show::Yes},
+    { 9, PageFtwLocation,        LeaveFtwLocation,        kStraight,    kStraight,        kPastOne,     kNextCaption,   Show::Yes, Show::Yes},
+    {10, PageFtwConfirmLocation, LeaveFtwConfirmLocation, kStraight,    kStraight,        kStraight,    kNextCaption,   Show::Yes, Show::Yes},
+    {11, PageFtwAboutConfig,     nullptr,                 kStraight,    kBackPastOne,     kStraight,    kNextCaption,   Show::No,  Show::Yes},
+    {12, PageFtwImportSample,    LeaveFtwImportSample,    kPastEditing, kStraight,        kPastOne,     kNextCaption,   Show::Yes, Show::Yes},
+    {13, PageFtwEditSample,      nullptr,                 kStraight,    kStraight,        kStraight,    kNextCaption,   Show::Yes, Show::Yes},
+    {14, PageFtwCreateConfig,    nullptr,                 kStraight,    kBackPastOne,     kStraight,    kNextCaption,   Show::No,  Show::Yes},
+    {15, PageFtwCaution,         nullptr,                 kStraight,    kStraight,        kStraight,    kNextCaption,   Show::No,  Show::Yes},
+    {16, PageFtwBackup,          LeaveFtwBackup,          kStraight,    kStraight,        kStraight,    kNextCaption,   Show::No,  Show::Yes},
+    {17, PageFtwFinal,           LeaveFtwFinal,           kStraight,    kStraight,        kStraight,    kFinishCaption, Show::No,  Show::Yes},
 };
 // clang-format on

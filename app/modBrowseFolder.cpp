@@ -1,0 +1,39 @@
+#include "app/modBrowseFolder.h"
+
+#include "app/Com.h"
+#include "win/Handles.h"
+
+#include <objbase.h>
+#include <shlobj.h>
+
+namespace {
+
+constexpr wchar_t kUsualStart[] = L"C:\\";
+
+using UniqueItemList = win::Unique<LPITEMIDLIST, CoTaskMemFree>;
+
+} // namespace
+
+int CALLBACK BrowseCallback(HWND window, UINT message, LPARAM, LPARAM data) {
+    constexpr auto kIsPath = static_cast<WPARAM>(-1); // and no item list
+    if (message == BFFM_INITIALIZED) SendMessageW(window, BFFM_SETSELECTIONW, kIsPath, data);
+    return 0;
+}
+
+std::wstring BrowseForFolder(const std::wstring& startFolder, HWND ownerWindow, const std::wstring& title,
+                             unsigned flags) {
+    StartOle(); // the resizable kind of dialog needs it
+    const std::wstring start = startFolder.empty() ? kUsualStart : startFolder;
+    wchar_t displayName[MAX_PATH] = L"";
+    BROWSEINFOW browse{};
+    browse.hwndOwner = ownerWindow;
+    browse.pszDisplayName = displayName;
+    browse.lpszTitle = title.c_str();
+    browse.ulFlags = flags;
+    browse.lpfn = BrowseCallback;
+    browse.lParam = reinterpret_cast<LPARAM>(start.c_str());
+    const UniqueItemList chosen(SHBrowseForFolderW(&browse));
+    wchar_t path[MAX_PATH] = L"";
+    if (!chosen || !SHGetPathFromIDListW(chosen.Get(), path)) return {};
+    return path;
+}
