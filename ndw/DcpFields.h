@@ -149,7 +149,7 @@ inline constexpr std::tuple kRecord4Fields{
 template <class Member> struct DcpWidth;
 template <> struct DcpWidth<std::int16_t> { static constexpr std::size_t value = 2; };
 template <std::size_t N> struct DcpWidth<FixedText<N>> { static constexpr std::size_t value = N; };
-template <> struct DcpWidth<DcpTable> { static constexpr std::size_t value = 32 * 3 * 10; };
+template <> struct DcpWidth<DcpTable> { static constexpr std::size_t value = std::tuple_size_v<DcpTable> * 30; };
 
 // Whether the fields follow each other without a gap and fill `size` bytes.
 template <class... Record, class... Member, class... Default>
