@@ -3,6 +3,7 @@
 #include "ndw/modDcp.h"
 
 #include <tuple>
+#include <type_traits>
 
 // The fields of the four records in file order, each with its offset within its record and the default
 // that a new configuration gives it. modDcp sets defaults, writes and reads by these tables;
@@ -149,7 +150,9 @@ inline constexpr std::tuple kRecord4Fields{
 template <class Member> struct DcpWidth;
 template <> struct DcpWidth<std::int16_t> { static constexpr std::size_t value = 2; };
 template <std::size_t N> struct DcpWidth<FixedText<N>> { static constexpr std::size_t value = N; };
-template <> struct DcpWidth<DcpTable> { static constexpr std::size_t value = std::tuple_size_v<DcpTable> * 30; };
+template <> struct DcpWidth<DcpTable> {
+    static constexpr std::size_t value = std::tuple_size_v<DcpTable> * 30;
+};
 
 // Whether the fields follow each other without a gap and fill `size` bytes.
 template <class... Record, class... Member, class... Default>
@@ -162,6 +165,18 @@ constexpr bool FieldsFill(const std::tuple<DcpField<Record, Member, Default>...>
     };
     std::apply([&](const auto&... field) { (append(field.offset, DcpWidth<Member>::value), ...); }, fields);
     return inOrder && end == size;
+}
+
+// Where the field of a member begins within its record.
+template <class Fields, class Member> constexpr std::size_t OffsetOf(const Fields& fields, Member member) {
+    std::size_t offset = 0;
+    const auto compare = [&](const auto& field) {
+        if constexpr (std::is_same_v<std::remove_cvref_t<decltype(field.member)>, Member>) {
+            if (field.member == member) offset = field.offset;
+        }
+    };
+    std::apply([&](const auto&... field) { (compare(field), ...); }, fields);
+    return offset;
 }
 
 static_assert(FieldsFill(kHeaderFields, 1125));

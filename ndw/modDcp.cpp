@@ -247,7 +247,7 @@ bool ReadDcpBytes(std::span<const unsigned char> bytes, DcpRecords& records) {
 
 std::optional<std::int16_t> DcpPortNumber(std::span<const unsigned char> bytes) {
     if (!IsDcpFile(bytes)) return std::nullopt;
-    DcpRecords records;
-    ReadDcpBytes(bytes, records);
-    return records.header.portNumber;
+    std::int16_t number = 0;
+    ByteReader(bytes.subspan(OffsetOf(kHeaderFields, &DcpHeader::portNumber)))(number);
+    return number;
 }

@@ -1,6 +1,7 @@
 #include "ndw/modDcp.h"
 
 #include "tests/ndw/DcpByHand.h"
+#include "tests/support/Generator.h"
 
 #include <gtest/gtest.h>
 
@@ -163,4 +164,17 @@ TEST(modDcp, TheFileIsReadOnlyWhenItIsOne) {
         EXPECT_FALSE(ReadDcpBytes(AsBytes(wrong), records));
     }
     EXPECT_EQ(records.header.portNumber, 300);
+}
+
+TEST(modDcp, AnswersSurviveTheWayThereAndBack) {
+    const auto read = std::make_unique<DcpRecords>();
+    for (std::uint32_t seed = 0; seed < 10000; ++seed) {
+        const std::vector<unsigned char> bytes = RandomBytes(seed, 64);
+        Generator from(bytes);
+        const NdwAnswers answers = ValidAnswers(from);
+        const std::string written = Created(answers, L"Mill");
+        ASSERT_TRUE(ReadDcpBytes(AsBytes(written), *read));
+        ASSERT_EQ(read->header.portNumber, answers.portIndex + 1);
+        ASSERT_EQ(AsText(*read), written) << "with seed " << seed;
+    }
 }

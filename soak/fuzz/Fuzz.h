@@ -1,0 +1,17 @@
+#pragma once
+
+#include "tests/support/Generator.h"
+
+#include <cstdio>
+#include <cstdlib>
+
+// Ends the program, and so is reported with the input that led here, unless `holds`.
+inline void Require(bool holds, const char* what) {
+    if (holds) return;
+    std::fprintf(stderr, "Does not hold: %s\n", what);
+    std::abort();
+}
+#define REQUIRE(condition) Require((condition), #condition)
+
+// Each fuzz program says here what has to hold for the input made by `from`.
+void Examine(Generator& from);
