@@ -15,7 +15,7 @@ void Examine(Generator& from) {
     REQUIRE(drive.empty() || (drive.size() == 2 && drive[1] == L':'));
     REQUIRE(folder.empty() || folder.back() == L'\\');
     REQUIRE(file == name || file == name + L"." + extension);
-    REQUIRE(file.find(L'\\') == kNone && extension.find(L'.') == kNone);
+    REQUIRE((file + extension).find(L'\\') == kNone && extension.find(L'.') == kNone);
     REQUIRE(SplitPath(path, static_cast<std::int16_t>(7 + from.Below(30000))).empty());
 
     const std::wstring whole = WithBackslash(path);
