@@ -1,5 +1,6 @@
 #include "app/Settings.h"
 
+#include "app/IniRoom.h"
 #include "app/Names.h"
 #include "app/Text.h"
 #include "app/modLocations.h"
@@ -50,7 +51,11 @@ std::wstring ReadProfileString(const std::wstring& file, const std::wstring& sec
 }
 
 bool TryWriteIniString(const std::wstring& key, const std::wstring& value) {
-    return WritePrivateProfileStringA(kWrittenSection, ToAnsi(key).c_str(), ToAnsi(value).c_str(),
+    constexpr std::size_t kSyntax = 64; // section line, "=", line ends
+    const std::string ansiKey = ToAnsi(key);
+    const std::string ansiValue = ToAnsi(value);
+    if (!HasRoomToRewrite(locations.IniFile, ansiKey.size() + ansiValue.size() + kSyntax)) return false;
+    return WritePrivateProfileStringA(kWrittenSection, ansiKey.c_str(), ansiValue.c_str(),
                                       ToAnsi(locations.IniFile).c_str()) != FALSE;
 }
 
