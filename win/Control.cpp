@@ -1,7 +1,10 @@
 #include "win/Control.h"
 
+#include "win/Accessible.h"
 #include "win/Form.h"
 #include "win/Screen.h"
+
+#include <oleacc.h>
 
 #include <algorithm>
 
@@ -70,6 +73,11 @@ void Control::Font(HFONT font) {
 
 HFONT Control::Font() const { return font_ ? font_ : form_->DefaultFont(); }
 
+void Control::Focus() {
+    const HWND window = Handle();
+    SendMessageW(form_->Hwnd(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(window), TRUE);
+}
+
 void Control::Repaint() {
     if (hwnd_) InvalidateRect(hwnd_, nullptr, TRUE);
 }
@@ -102,6 +110,9 @@ bool Link::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
         if (wParam != VK_RETURN) return false;
         SendMessageW(Handle(), BM_CLICK, 0, 0);
         return true;
+    case WM_GETOBJECT:
+        result = AnswerGetObject(Handle(), wParam, lParam, ROLE_SYSTEM_LINK, Text());
+        return result != 0;
     case WM_SETCURSOR:
         SetCursor(LoadCursorW(nullptr, IDC_HAND));
         result = TRUE;

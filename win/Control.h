@@ -55,7 +55,7 @@ class Control {
     const std::wstring& ToolTip() const { return toolTip_; }
     void Font(HFONT font); // not owned; null goes back to the form's own
     HFONT Font() const;    // the one in force
-    void Focus() { SetFocus(Handle()); }
+    void Focus();          // as the dialog manager gives it: the default button follows
     void Repaint();
     // Puts the control behind `previous` in tab order, which is also the order a screen reader walks.
     void Follows(Control& previous);

@@ -53,11 +53,8 @@ void Form::ShowModal(HWND owner) {
 }
 
 void Form::DefaultButton(Control& button) {
-    const LRESULT current = SendMessageW(hwnd_, DM_GETDEFID, 0, 0);
-    if (HIWORD(current) == DC_HASDEFID && LOWORD(current) != button.Id())
-        SendDlgItemMessageW(hwnd_, LOWORD(current), BM_SETSTYLE, BS_PUSHBUTTON | BS_NOTIFY, TRUE);
+    button.Handle();
     SendMessageW(hwnd_, DM_SETDEFID, static_cast<WPARAM>(button.Id()), 0);
-    button.Send(BM_SETSTYLE, BS_DEFPUSHBUTTON | BS_NOTIFY, TRUE);
 }
 
 Control* Form::ControlOf(HWND window) const {

@@ -1,8 +1,17 @@
 #include "win/PictureArea.h"
 
+#include "win/Accessible.h"
 #include "win/Screen.h"
 
+#include <oleacc.h>
+
 namespace win {
+
+bool NamedPicture::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
+    if (message != WM_GETOBJECT) return false;
+    result = AnswerGetObject(Handle(), wParam, lParam, ROLE_SYSTEM_GRAPHIC, name_);
+    return result != 0;
+}
 
 void PictureArea::Draw(const DRAWITEMSTRUCT& item) {
     if (!picture_) picture_.emplace(resource_, Dpi());

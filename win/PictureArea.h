@@ -1,6 +1,7 @@
 #pragma once
 
 // Labels that show a picture of the program's resources. Decoded at the first painting, kept to the end.
+// Their names are for screen readers.
 
 #include "win/Control.h"
 #include "win/Picture.h"
@@ -9,7 +10,19 @@
 
 namespace win {
 
-class PictureArea : public Label {
+class NamedPicture : public Label {
+  public:
+    void Name(const wchar_t* name) { name_ = name; } // a literal
+
+  protected:
+    void Made() override { InterceptMessages(); }
+    bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
+
+  private:
+    const wchar_t* name_ = L"";
+};
+
+class PictureArea : public NamedPicture {
   public:
     explicit PictureArea(int resource) : resource_(resource) {}
     void Draw(const DRAWITEMSTRUCT& item);
@@ -20,7 +33,7 @@ class PictureArea : public Label {
 };
 
 // An icon as large as the area, on the window's background.
-class IconArea : public Label {
+class IconArea : public NamedPicture {
   public:
     void Icon(int resource) { resource_ = resource; }
     void Draw(const DRAWITEMSTRUCT& item);

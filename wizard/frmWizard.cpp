@@ -40,6 +40,9 @@ constexpr wchar_t kRunOnceKey[] = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion
 constexpr wchar_t kRunOnceValue[] = L"Varnel_DNC_FTSW";
 constexpr const wchar_t* kStartUpKeys[] = {L"RxNameMode", L"RxChangeNameMode", L"NavAutoStart"};
 
+constexpr const wchar_t* kAppNames[] = {L"File Manager", L"Link Manager", L"Configuration", L"Terminal",
+                                        L"Navigator"};
+
 void FillArea(HDC dc, win::Twips left, win::Twips top, win::Twips right, win::Twips bottom, HBRUSH brush) {
     const RECT area{win::Px(left), win::Px(top), win::Px(right), win::Px(bottom)};
     FillRect(dc, &area, brush);
@@ -102,22 +105,25 @@ void frmWizard::BindFrame() {
 
 void frmWizard::BindPictures() {
     struct Place {
-        win::Control* picture;
+        win::PictureArea* picture;
         int id;
+        const wchar_t* name;
         win::Twips left, top, width, height;
     };
     const Place places[] = {
-        {&picLogo, kLogoId, 0_tw, 0_tw, layout::kColumnWidth, layout::kHeaderHeight},
-        {&picScreenLogo, kScreenLogoId, 180_tw, 0_tw, 1080_tw, 1080_tw},
-        {&picCncIcon, kCncIconId, 180_tw, 0_tw, 1080_tw, 1080_tw},
-        {&picVarnel, kVarnelId, 120_tw, layout::kRowTop - 480_tw, 1200_tw, 360_tw},
+        {&picLogo, kLogoId, L"Varnel DNC", 0_tw, 0_tw, layout::kColumnWidth, layout::kHeaderHeight},
+        {&picScreenLogo, kScreenLogoId, L"Computer", 180_tw, 0_tw, 1080_tw, 1080_tw},
+        {&picCncIcon, kCncIconId, L"Machine tool", 180_tw, 0_tw, 1080_tw, 1080_tw},
+        {&picVarnel, kVarnelId, L"Varnel", 120_tw, layout::kRowTop - 480_tw, 1200_tw, 360_tw},
     };
     for (const Place& place : places) {
         place.picture->Bind(*this, place.id, L"Static", SS_OWNERDRAW);
+        place.picture->Name(place.name);
         place.picture->Place(place.left, place.top, place.width, place.height);
     }
     for (std::size_t i = 0; i < picAppIcon.size(); ++i) {
         picAppIcon[i].Bind(*this, kAppIconId + static_cast<int>(i), L"Static", SS_OWNERDRAW | SS_NOTIFY);
+        picAppIcon[i].Name(kAppNames[i]);
         picAppIcon[i].Icon(IDI_APP_ICON + static_cast<int>(i));
     }
 }
@@ -160,6 +166,7 @@ void frmWizard::Form_Load() {
     PageNo = 1;
     MoveToItsPlace();
 
+    if (startUp.WizardMode == kNewDevice) lblStep.Handle(); // read before the heading
     picHeader.Visible(true);
     txtInfo.SetText(L"Initializing...");
     txtInfo.Visible(true);
@@ -220,6 +227,8 @@ void frmWizard::WriteStartUpKeys() {
 void frmWizard::WriteHeading(std::wstring_view heading) {
     picHeader.Text(heading);
     picHeader.Repaint();
+    // A screen reader speaks the new page although the focus may stay where it is.
+    NotifyWinEvent(EVENT_SYSTEM_ALERT, picHeader.Handle(), OBJID_CLIENT, CHILDID_SELF);
 }
 
 void frmWizard::WriteInfo(std::wstring_view text) {
