@@ -40,12 +40,14 @@ class DrawnControl final : public IAccessible {
         return left;
     }
 
-    STDMETHODIMP get_accRole(VARIANT, VARIANT* role) override {
+    STDMETHODIMP get_accRole(VARIANT child, VARIANT* role) override {
+        if (child.vt != VT_I4 || child.lVal != CHILDID_SELF) return system_->get_accRole(child, role);
         role->vt = VT_I4;
         role->lVal = role_;
         return S_OK;
     }
-    STDMETHODIMP get_accName(VARIANT, BSTR* name) override {
+    STDMETHODIMP get_accName(VARIANT child, BSTR* name) override {
+        if (child.vt != VT_I4 || child.lVal != CHILDID_SELF) return system_->get_accName(child, name);
         *name = SysAllocString(name_.c_str());
         return *name ? S_OK : E_OUTOFMEMORY;
     }

@@ -101,6 +101,10 @@ void frmWizard::BindFrame() {
     picMain.Place(0_tw, layout::kMainTop, layout::kWindowWidth, layout::kMainHeight);
     lblKey.Bind(*this, kKeyId, L"Static", SS_LEFT);
     lblCustInfo.Bind(*this, kCustInfoId, L"Static", SS_LEFT);
+    // The first windows made are the first in reading and tab order; the heading names the text behind it.
+    if (startUp.WizardMode == kNewDevice) lblStep.Handle();
+    picHeader.Handle();
+    txtInfo.Handle();
 }
 
 void frmWizard::BindPictures() {
@@ -166,7 +170,6 @@ void frmWizard::Form_Load() {
     PageNo = 1;
     MoveToItsPlace();
 
-    if (startUp.WizardMode == kNewDevice) lblStep.Handle(); // read before the heading
     picHeader.Visible(true);
     txtInfo.SetText(L"Initializing...");
     txtInfo.Visible(true);
