@@ -37,7 +37,8 @@ void Form::Create(const FormLook& look, HFONT defaultFont, int width, int height
 }
 
 void Form::ShowModal(HWND owner) {
-    if (owner) EnableWindow(owner, FALSE);
+    owner_ = owner;
+    if (owner_) EnableWindow(owner_, FALSE);
     ShowWindow(hwnd_, SW_SHOW);
     MSG message{};
     bool ended = false;
@@ -45,11 +46,16 @@ void Form::ShowModal(HWND owner) {
         ended = GetMessageW(&message, nullptr, 0, 0) <= 0;
         if (!ended) PumpMessage(message);
     }
-    if (owner) {
-        EnableWindow(owner, TRUE);
-        SetActiveWindow(owner);
-    }
+    Hide();
     if (ended) EndMessageLoop(); // the outer loop has to see it too
+}
+
+// The owner comes to life first: otherwise another program's window would become the active one.
+void Form::Hide() {
+    if (owner_) EnableWindow(owner_, TRUE);
+    ShowWindow(hwnd_, SW_HIDE);
+    if (owner_) SetActiveWindow(owner_);
+    owner_ = nullptr;
 }
 
 void Form::DefaultButton(Control& button) {

@@ -35,7 +35,7 @@ class Form {
     // Runs the message loop until the form is hidden or closed. The owner, if any, is disabled meanwhile
     // and gets the focus back. Throws ProgramEnded when the program was told to quit meanwhile.
     void ShowModal(HWND owner);
-    void Hide() { ShowWindow(hwnd_, SW_HIDE); }
+    void Hide();
 
     // Makes `button` the one that Enter presses; only this button is drawn as the default one.
     void DefaultButton(Control& button);
@@ -66,6 +66,7 @@ class Form {
 
     HWND hwnd_ = nullptr;
     HWND toolTips_ = nullptr;
+    HWND owner_ = nullptr; // while shown modally
     HFONT defaultFont_ = nullptr;
     int background_ = COLOR_WINDOW;
     std::vector<Control*> controls_;
