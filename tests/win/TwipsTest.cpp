@@ -1,0 +1,44 @@
+#include "win/Twips.h"
+
+#include <gtest/gtest.h>
+
+using namespace win::literals;
+
+TEST(Twips, Pixels) {
+    const struct {
+        int twips, at96, at120, at144, at192;
+    } rows[] = {{0, 0, 0, 0, 0},
+                {1, 0, 0, 0, 0},
+                {7, 0, 1, 1, 1},
+                {8, 1, 1, 1, 1},
+                {15, 1, 1, 2, 2},
+                {-8, -1, -1, -1, -1},
+                {-7, 0, -1, -1, -1},
+                {1440, 96, 120, 144, 192},
+                {1560, 104, 130, 156, 208},
+                {7500, 500, 625, 750, 1000}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.twips);
+        EXPECT_EQ(win::ToPixels({row.twips}, 96), row.at96);
+        EXPECT_EQ(win::ToPixels({row.twips}, 120), row.at120);
+        EXPECT_EQ(win::ToPixels({row.twips}, 144), row.at144);
+        EXPECT_EQ(win::ToPixels({row.twips}, 192), row.at192);
+    }
+}
+
+// A measured text must fit the twips that it was turned into.
+TEST(Twips, FromPixelsNeverShrinks) {
+    for (const int dpi : {96, 120, 144, 168, 192})
+        for (int pixels = 0; pixels < 1500; ++pixels)
+            ASSERT_TRUE(win::ToTwips(pixels, dpi).value * dpi >= pixels * win::kTwipsPerInch &&
+                        win::ToPixels(win::ToTwips(pixels, dpi), dpi) == pixels)
+                << pixels << " at " << dpi;
+}
+
+TEST(Twips, Arithmetic) {
+    win::Twips sum = 600_tw;
+    sum += 15_tw;
+    EXPECT_EQ(sum, 615_tw);
+    EXPECT_EQ((1560_tw + 960_tw * 2 - 80_tw) / 10, 340_tw);
+    EXPECT_LT(sum, 616_tw);
+}
