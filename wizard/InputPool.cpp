@@ -100,6 +100,7 @@ win::Button& InputColumn::Option(std::size_t index, std::wstring_view caption, b
 
 win::Button& InputColumn::Check(std::size_t index, std::wstring_view caption, bool checked) {
     auto& box = form_.pool.chkUserInput[index];
+    box.onClick = nullptr; // what another page left would store into that page's answer
     box.Text(caption);
     box.Checked(checked);
     Put(box, layout::kTextWidth, layout::kOptionHeight, layout::kGapBetween);
