@@ -7,14 +7,12 @@ namespace {
 constexpr std::wstring_view kPieces[] = {L"<r>", L"</r>", L"<b>",  L"</b>", L"<u>",  L"</u>", L"<i>", L"</i>",
                                          L"<l>", L"</l>", L"<br>", L"\r\n", L"word", L"<",    L">",   L"<b"};
 
-std::wstring Removed(std::wstring text, std::size_t at, std::size_t count) { return text.erase(at, count); }
-
 // What a pass leaves of a text, without any look.
 std::wstring Passed(std::wstring text, std::wstring_view open, std::wstring_view close) {
     for (std::size_t at = text.find(open); at != text.npos; at = text.find(open, at)) {
-        text = Removed(text, at, open.size());
+        text.erase(at, open.size());
         const std::size_t end = text.find(close, at);
-        if (end != text.npos) text = Removed(text, end, close.size());
+        if (end != text.npos) text.erase(end, close.size());
     }
     return text;
 }
@@ -42,44 +40,56 @@ void ExamineAnyText(Generator& from) {
     message.SetText(text);
     FormatText(message);
     std::wstring left = WithBreaks(Passed(plain, L"<b>", L"</b>"));
-    for (const auto* tag : {L"i", L"l", L"u"}) {
-        const std::wstring name = tag;
-        left = Passed(left, L"<" + name + L">", L"</" + name + L">");
-    }
+    left = Passed(Passed(Passed(left, L"<i>", L"</i>"), L"<l>", L"</l>"), L"<u>", L"</u>");
     REQUIRE(message.Text() == left);
+}
+
+struct Piece {
+    std::wstring word;
+    bool red;
+    bool bold;
+    bool redOutside;
+};
+
+std::wstring InTags(wchar_t name, const std::wstring& text) {
+    std::wstring tagged = L"<?>";
+    tagged[1] = name;
+    tagged += text;
+    tagged += L"</?>";
+    tagged[tagged.size() - 2] = name;
+    return tagged;
+}
+
+std::wstring Tagged(const Piece& piece) {
+    std::wstring text = piece.word;
+    if (piece.red && !piece.redOutside) text = InTags(L'r', text);
+    if (piece.bold) text = InTags(L'b', text);
+    if (piece.red && piece.redOutside) text = InTags(L'r', text);
+    return text;
 }
 
 // Proper pairs: the look is right, too, as a control shows it that was set up without any tag.
 void ExaminePairs(Generator& from) {
     std::wstring tagged;
-    MemoryRichText expected;
-    expected.SetText(L"");
     std::wstring plain;
-    struct Piece {
-        std::size_t start, length;
-        bool red, bold;
-    };
     std::vector<Piece> pieces;
     for (std::size_t count = from.Below(12); count > 0; --count) {
-        const std::wstring word = L"w" + from.Text(4, L"xyz, ");
-        if (word.find_first_of(L"<\r\n") != word.npos) continue;
-        const bool red = from.Below(2) != 0;
-        const bool bold = from.Below(2) != 0;
-        const bool redOutside = from.Below(2) != 0;
-        std::wstring inside = word;
-        if (red && !redOutside) inside = L"<r>" + inside + L"</r>";
-        if (bold) inside = L"<b>" + inside + L"</b>";
-        if (red && redOutside) inside = L"<r>" + inside + L"</r>";
-        tagged += inside;
-        pieces.push_back({plain.size(), word.size(), red, bold});
-        plain += word;
+        Piece piece{L"w", from.Below(2) != 0, from.Below(2) != 0, from.Below(2) != 0};
+        for (std::size_t length = from.Below(5); length > 0; --length)
+            piece.word += from.OneOf(std::wstring_view(L"xyz, /"));
+        tagged += Tagged(piece);
+        plain += piece.word;
+        pieces.push_back(piece);
     }
+    MemoryRichText expected;
     expected.SetText(plain);
+    std::size_t start = 0;
     for (const Piece& piece : pieces) {
-        expected.SelStart(static_cast<std::int32_t>(piece.start));
-        expected.SelLength(static_cast<std::int32_t>(piece.length));
+        expected.SelStart(static_cast<std::int32_t>(start));
+        expected.SelLength(static_cast<std::int32_t>(piece.word.size()));
         if (piece.red) expected.SelColor(255);
         if (piece.bold) expected.SelBold(true);
+        start += piece.word.size();
     }
     MemoryRichText control;
     control.SetText(tagged);
