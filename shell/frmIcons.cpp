@@ -1,3 +1,286 @@
 #include "shell/frmIcons.h"
 
-std::wstring NdwPickIcon(HWND) { return {}; }
+#include "app/modLocations.h"
+#include "win/Fonts.h"
+#include "win/Screen.h"
+
+#include <algorithm>
+
+namespace {
+
+using namespace win::literals;
+using win::Twips;
+
+enum IconFormIds { kSlotId = 101, kScrollId = 110, kNameId, kCountId, kStripId };
+
+constexpr Twips kMargin = 180_tw;
+constexpr Twips kSlot = 660_tw;     // from slot to slot
+constexpr Twips kIconSide = 480_tw; // a slot's picture
+constexpr Twips kEdge = 30_tw;      // of the strip
+constexpr Twips kStripWidth = kSlot * kIconSlots + kEdge * 2;
+constexpr Twips kFrame = 30_tw; // thickness of the selection frame
+constexpr Twips kGap = 90_tw;
+constexpr Twips kLabelHeight = 210_tw;
+constexpr Twips kCountWidth = 1200_tw;
+constexpr Twips kButtonWidth = 1095_tw;
+constexpr Twips kButtonHeight = 375_tw;
+constexpr Twips kClientWidth = kStripWidth + kMargin * 2;
+
+constexpr DWORD kStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN | DS_MODALFRAME;
+constexpr DWORD kExtendedStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
+
+// A window that takes no input for as long as this lives.
+class Disabled {
+  public:
+    explicit Disabled(HWND window) : window_(window) {
+        if (window_) EnableWindow(window_, FALSE);
+    }
+    Disabled(const Disabled&) = delete;
+    Disabled& operator=(const Disabled&) = delete;
+    ~Disabled() {
+        if (window_) EnableWindow(window_, TRUE);
+    }
+
+  private:
+    HWND window_;
+};
+
+// A name as a caption: "&" is no access key.
+std::wstring AsCaption(const std::wstring& name) {
+    std::wstring caption;
+    for (const wchar_t c : name)
+        caption.append(c == L'&' ? 2 : 1, c);
+    return caption;
+}
+
+void DrawFrame(HDC dc, RECT area) {
+    for (int i = win::Px(kFrame); i > 0; --i) {
+        FrameRect(dc, &area, GetSysColorBrush(COLOR_HIGHLIGHT));
+        InflateRect(&area, -1, -1);
+    }
+}
+
+} // namespace
+
+bool ArrowButton::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
+    const bool isArrow = wParam == VK_LEFT || wParam == VK_RIGHT;
+    if (message == WM_GETDLGCODE) {
+        result = SystemProcedure(message, wParam, lParam) | DLGC_WANTARROWS;
+        return true;
+    }
+    if (message != WM_KEYDOWN || !isArrow) return false;
+    result = SendMessageW(GetParent(Handle()), message, wParam, lParam);
+    return true;
+}
+
+frmIcons::frmIcons() {
+    Create({L"VarnelIcons", L"Select Icon", kStyle, kExtendedStyle, nullptr},
+           win::FontFor(win::FontUse::Body), 0, 0);
+    Background(COLOR_BTNFACE);
+    BindControls();
+    cmdOK.onClick = [this] { cmdOK_Click(); };
+    cmdCancel.onClick = [this] { cmdCancel_Click(); };
+    for (std::int16_t i = 0; i < kIconSlots; ++i)
+        imgIcon[static_cast<std::size_t>(i)].onClick = [this, i] {
+            imgIcon_Click(static_cast<std::int16_t>(i + 1));
+        };
+}
+
+void frmIcons::BindControls() {
+    for (std::size_t i = 0; i < imgIcon.size(); ++i)
+        imgIcon[i].Bind(*this, kSlotId + static_cast<int>(i), L"Button",
+                        BS_OWNERDRAW | BS_NOTIFY | (i == 0 ? WS_GROUP : 0));
+    hScrollIcons.Bind(*this, kScrollId, L"ScrollBar", SBS_HORZ | WS_GROUP);
+    lblIconName.Bind(*this, kNameId, L"Static", SS_LEFT | SS_NOPREFIX | SS_ENDELLIPSIS);
+    lblnIcons.Bind(*this, kCountId, L"Static", SS_RIGHT | SS_NOPREFIX);
+    constexpr DWORD kPushButton = BS_PUSHBUTTON | BS_NOTIFY | WS_GROUP | WS_TABSTOP;
+    cmdOK.Bind(*this, IDOK, L"Button", kPushButton);
+    cmdCancel.Bind(*this, IDCANCEL, L"Button", kPushButton);
+    picIcons.Bind(*this, kStripId, L"Static", SS_WHITERECT | WS_CLIPSIBLINGS, WS_EX_CLIENTEDGE);
+}
+
+void frmIcons::OpenForm(const std::wstring& folder, HWND owner) {
+    result_.clear();
+    const std::vector<std::wstring> keys = IconKeys(folder);
+    const Disabled meanwhile(owner);
+    win::PumpPendingMessages();
+    icons_.emplace(folder, keys, win::Px(kIconSide));
+    if (icons_->Count() == 0) return;
+    LayOut();
+    MoveOver(owner);
+    Show(OpenStrip(icons_->Count(), DefaultPosition(icons_->Keys())));
+    imgIcon[static_cast<std::size_t>(*SelectedSlot(strip_) - 1)].Focus();
+    ShowModal(owner);
+}
+
+// From top to bottom; the strip under the slots comes last, so that they lie in front of it.
+void frmIcons::LayOut() {
+    const Twips barHeight = NeedsScrollBar(icons_->Count()) ? win::Tw(GetSystemMetrics(SM_CYHSCROLL)) : 0_tw;
+    const Twips stripHeight = kSlot + barHeight + kEdge * 2;
+    const Twips labelTop = kMargin + stripHeight + kGap;
+    const Twips buttonTop = labelTop + kLabelHeight + kMargin;
+    const Twips right = kMargin + kStripWidth;
+    for (int i = 0; i < kIconSlots; ++i)
+        imgIcon[static_cast<std::size_t>(i)].Place(kMargin + kEdge + kSlot * i, kMargin + kEdge, kSlot,
+                                                   kSlot);
+    hScrollIcons.Place(kMargin + kEdge, kMargin + kEdge + kSlot, kSlot * kIconSlots, barHeight);
+    lblIconName.Place(kMargin, labelTop, kStripWidth - kCountWidth - kGap, kLabelHeight);
+    lblnIcons.Place(right - kCountWidth, labelTop, kCountWidth, kLabelHeight);
+    cmdOK.Place(right - kButtonWidth * 2 - kGap, buttonTop, kButtonWidth, kButtonHeight);
+    cmdCancel.Place(right - kButtonWidth, buttonTop, kButtonWidth, kButtonHeight);
+    picIcons.Place(kMargin, kMargin, kStripWidth, stripHeight);
+    for (ArrowButton& slot : imgIcon)
+        slot.Visible(true);
+    hScrollIcons.Visible(NeedsScrollBar(icons_->Count()));
+    for (win::Control* control :
+         {&static_cast<win::Control&>(lblIconName), &static_cast<win::Control&>(lblnIcons),
+          &static_cast<win::Control&>(cmdOK), &static_cast<win::Control&>(cmdCancel),
+          &static_cast<win::Control&>(picIcons)})
+        control->Visible(true);
+    cmdOK.Text(L"OK");
+    cmdCancel.Text(L"Cancel");
+    DefaultButton(cmdOK);
+
+    RECT window{0, 0, win::Px(kClientWidth), win::Px(buttonTop + kButtonHeight + kMargin)};
+    AdjustWindowRectEx(&window, kStyle, FALSE, kExtendedStyle);
+    SetWindowPos(Hwnd(), nullptr, 0, 0, window.right - window.left, window.bottom - window.top,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+// In the middle of the owner, but whole on the screen.
+void frmIcons::MoveOver(HWND owner) {
+    SetWindowLongPtrW(Hwnd(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
+    const RECT area = win::WorkArea();
+    RECT under = area;
+    if (owner) GetWindowRect(owner, &under);
+    RECT window{};
+    GetWindowRect(Hwnd(), &window);
+    const LONG width = window.right - window.left;
+    const LONG height = window.bottom - window.top;
+    const LONG left = std::min((under.left + under.right - width) / 2, area.right - width);
+    const LONG top = std::min((under.top + under.bottom - height) / 2, area.bottom - height);
+    SetWindowPos(Hwnd(), nullptr, std::max(left, area.left), std::max(top, area.top), 0, 0,
+                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void frmIcons::Show(const IconStrip& strip) {
+    strip_ = strip;
+    UpdateIcons();
+    lblnIcons.Text(std::to_wstring(strip_.count) + L" icons");
+    lblIconName.Text(icons_->Key(strip_.selected));
+    ShowScrollBar();
+    MoveFocus();
+}
+
+void frmIcons::UpdateIcons() {
+    for (std::int16_t slot = 1; slot <= kIconSlots; ++slot) {
+        ArrowButton& image = imgIcon[static_cast<std::size_t>(slot - 1)];
+        const auto position = PositionInSlot(strip_, slot);
+        image.Text(position ? AsCaption(icons_->Key(*position)) : std::wstring());
+        image.Repaint();
+    }
+}
+
+void frmIcons::ShowScrollBar() {
+    SCROLLINFO info{};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
+    info.nMin = 1;
+    info.nMax = strip_.count;
+    info.nPage = kIconSlots; // the last position is then the one that fills the strip
+    info.nPos = strip_.scroll;
+    if (NeedsScrollBar(strip_.count)) SetScrollInfo(hScrollIcons.Handle(), SB_CTL, &info, TRUE);
+}
+
+// The strip is one tab stop: the slot of the chosen icon, while that is in sight.
+void frmIcons::MoveFocus() {
+    const HWND focus = GetFocus();
+    const auto selected = SelectedSlot(strip_);
+    bool inStrip = false;
+    for (std::int16_t slot = 1; slot <= kIconSlots; ++slot) {
+        const HWND image = imgIcon[static_cast<std::size_t>(slot - 1)].Handle();
+        const LONG style = GetWindowLongW(image, GWL_STYLE) & ~WS_TABSTOP;
+        SetWindowLongW(image, GWL_STYLE, slot == selected.value_or(1) ? style | WS_TABSTOP : style);
+        inStrip = inStrip || image == focus;
+    }
+    if (inStrip && selected) imgIcon[static_cast<std::size_t>(*selected - 1)].Focus();
+}
+
+void frmIcons::imgIcon_Click(std::int16_t slot) { Show(ClickSlot(strip_, slot)); }
+
+void frmIcons::imgIcon_DblClick(std::int16_t slot) {
+    imgIcon_Click(slot);
+    cmdOK_Click();
+}
+
+void frmIcons::hScrollIcons_Change(WORD code) {
+    // clang-format off
+    switch (code) {
+    case SB_LINELEFT:  return Show(Scroll(strip_, ScrollStep::LineLeft));
+    case SB_LINERIGHT: return Show(Scroll(strip_, ScrollStep::LineRight));
+    case SB_PAGELEFT:  return Show(Scroll(strip_, ScrollStep::PageLeft));
+    case SB_PAGERIGHT: return Show(Scroll(strip_, ScrollStep::PageRight));
+    case SB_LEFT:      return Show(Scroll(strip_, ScrollStep::First));
+    case SB_RIGHT:     return Show(Scroll(strip_, ScrollStep::Last));
+    case SB_THUMBTRACK: break;
+    default: return;
+    }
+    // clang-format on
+    SCROLLINFO info{};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_TRACKPOS; // the message itself holds 16 bits
+    GetScrollInfo(hScrollIcons.Handle(), SB_CTL, &info);
+    Show(ScrollTo(strip_, info.nTrackPos));
+}
+
+void frmIcons::Form_KeyDown(WPARAM key) {
+    if (key == VK_LEFT) Show(MoveLeft(strip_));
+    if (key == VK_RIGHT) Show(MoveRight(strip_));
+}
+
+void frmIcons::cmdOK_Click() {
+    result_ = icons_->Key(strip_.selected) + L".ico";
+    Hide();
+}
+
+void frmIcons::cmdCancel_Click() { Hide(); }
+
+LRESULT frmIcons::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_KEYDOWN:
+        Form_KeyDown(wParam);
+        return 0;
+    case WM_HSCROLL:
+        hScrollIcons_Change(LOWORD(wParam));
+        return 0;
+    case WM_COMMAND: {
+        const int slot = LOWORD(wParam) - kSlotId + 1;
+        if (HIWORD(wParam) != BN_DOUBLECLICKED || slot < 1 || slot > kIconSlots) break;
+        imgIcon_DblClick(static_cast<std::int16_t>(slot));
+        return 0;
+    }
+    default:
+        break;
+    }
+    return Form::OnMessage(message, wParam, lParam);
+}
+
+void frmIcons::OnDrawItem(win::Control& control, const DRAWITEMSTRUCT& item) {
+    FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_WINDOW));
+    const auto slot = static_cast<std::int16_t>(control.Id() - kSlotId + 1);
+    const auto position = PositionInSlot(strip_, slot);
+    if (!position) return;
+    const int inset = (item.rcItem.right - item.rcItem.left - win::Px(kIconSide)) / 2;
+    icons_->Draw(*position, item.hDC, item.rcItem.left + inset, item.rcItem.top + inset);
+    if (*position != strip_.selected) return;
+    RECT area = item.rcItem;
+    DrawFrame(item.hDC, area);
+    InflateRect(&area, -win::Px(kFrame) - 1, -win::Px(kFrame) - 1);
+    if ((item.itemState & (ODS_FOCUS | ODS_NOFOCUSRECT)) == ODS_FOCUS) DrawFocusRect(item.hDC, &area);
+}
+
+std::wstring NdwPickIcon(HWND owner) {
+    frmIcons form;
+    form.OpenForm(locations.IconsPath, owner);
+    return form.Result();
+}

@@ -1,9 +1,70 @@
 #pragma once
 
+// The icon picker: a small modal window that shows the icon folder six icons at a time. The arrow keys
+// choose wherever the focus is, a double click and Enter accept, Esc gives up.
+
+#include "shell/IconList.h"
+#include "shell/IconStrip.h"
+#include "win/Control.h"
+#include "win/Form.h"
+
 #include <windows.h>
 
+#include <array>
+#include <cstdint>
+#include <optional>
 #include <string>
 
-// The icon that the user picks for a new configuration ("MILL.ico"); "" when none was picked or there is
-// none.
+// A push button that leaves the arrow keys to its form, which gets them as its own.
+class ArrowButton : public win::Button {
+  protected:
+    void Made() override { InterceptMessages(); }
+    bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
+};
+
+class frmIcons : public win::Form {
+  public:
+    frmIcons();
+
+    // Reads the icons of `folder` (ends in a backslash) and runs the window in front of `owner`, which is
+    // disabled meanwhile. Without icons the window is not shown.
+    void OpenForm(const std::wstring& folder, HWND owner);
+    // The icon accepted by OK, with its extension ("MILL.ico"); "" when there was none.
+    const std::wstring& Result() const { return result_; }
+
+    // Controls.
+    win::Label picIcons;                         // the strip
+    std::array<ArrowButton, kIconSlots> imgIcon; // its slots; the caption is the icon's name
+    win::Control hScrollIcons;                   // its value is the position shown in the first slot
+    win::Label lblnIcons;
+    win::Label lblIconName;
+    ArrowButton cmdOK, cmdCancel;
+
+    void UpdateIcons();
+    void imgIcon_Click(std::int16_t slot); // from 1
+    void imgIcon_DblClick(std::int16_t slot);
+    void hScrollIcons_Change(WORD code);
+    void Form_KeyDown(WPARAM key);
+    void cmdOK_Click();
+    void cmdCancel_Click();
+
+  protected:
+    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void OnDrawItem(win::Control& control, const DRAWITEMSTRUCT& item) override;
+
+  private:
+    void BindControls();
+    void LayOut();
+    void MoveOver(HWND owner);
+    void Show(const IconStrip& strip);
+    void ShowScrollBar();
+    void MoveFocus();
+
+    std::optional<IconList> icons_;
+    IconStrip strip_;
+    std::wstring result_;
+};
+
+// Lets the user pick an icon of the suite for a new configuration ("MILL.ico"); "" when none was picked or
+// there is none.
 std::wstring NdwPickIcon(HWND owner);

@@ -56,6 +56,8 @@ void Form::Hide() {
     ShowWindow(hwnd_, SW_HIDE);
     if (owner_) SetActiveWindow(owner_);
     owner_ = nullptr;
+    // A click that was sent, not posted, runs inside the modal loop's wait, which goes on until a message.
+    PostMessageW(hwnd_, WM_NULL, 0, 0);
 }
 
 void Form::DefaultButton(Control& button) {

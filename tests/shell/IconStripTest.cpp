@@ -1,0 +1,116 @@
+#include "shell/IconStrip.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+// One letter an operation: 1 to 6 clicks a slot, L and R are the arrow keys, < > { } [ ] the scroll bar's
+// arrows, pages and ends.
+IconStrip Play(IconStrip strip, std::string_view moves) {
+    for (const char c : moves) {
+        switch (c) {
+            // clang-format off
+        case 'L': strip = MoveLeft(strip); break;
+        case 'R': strip = MoveRight(strip); break;
+        case '<': strip = Scroll(strip, ScrollStep::LineLeft); break;
+        case '>': strip = Scroll(strip, ScrollStep::LineRight); break;
+        case '{': strip = Scroll(strip, ScrollStep::PageLeft); break;
+        case '}': strip = Scroll(strip, ScrollStep::PageRight); break;
+        case '[': strip = Scroll(strip, ScrollStep::First); break;
+        case ']': strip = Scroll(strip, ScrollStep::Last); break;
+        default:  strip = ClickSlot(strip, static_cast<std::int16_t>(c - '0'));
+            // clang-format on
+        }
+    }
+    return strip;
+}
+
+TEST(IconStrip, Opens) {
+    struct Row {
+        std::int16_t count, wanted, selected, scroll;
+        bool bar;
+    };
+    // clang-format off
+    const Row rows[] = {
+        {    0,  5,     1,     1, false},
+        {    1,  1,     1,     1, false},
+        {    3,  3,     3,     1, false},
+        {    6,  6,     6,     1, false},
+        {    7,  1,     1,     1, true },
+        {    7,  7,     7,     2, true },
+        {   40, 20,    20,    20, true },
+        {   40, 36,    36,    35, true },
+        {   40, 99,    40,    35, true },
+        {   40,  0,     1,     1, true },
+        {32767, 32767, 32767, 32762, true},
+    };
+    // clang-format on
+    for (const Row& row : rows) {
+        const IconStrip strip = OpenStrip(row.count, row.wanted);
+        EXPECT_EQ(strip, (IconStrip{row.count, row.selected, row.scroll})) << row.count << ", " << row.wanted;
+        EXPECT_EQ(NeedsScrollBar(row.count), row.bar) << row.count;
+    }
+}
+
+TEST(IconStrip, Moves) {
+    struct Row {
+        std::int16_t count, wanted;
+        std::string_view moves;
+        std::int16_t selected, scroll, slot; // slot 0: out of sight
+    };
+    // clang-format off
+    const Row rows[] = {
+        { 0,  1, "L R 1 6 < > ] }",  1,  1, 0},
+        { 3,  1, "5",                3,  1, 3}, // a slot without an icon
+        { 3,  1, "2",                2,  1, 2},
+        { 3,  1, "L",                1,  1, 1},
+        { 3,  3, "R",                3,  1, 3},
+        { 3,  1, "]",                1,  1, 1},
+        { 6,  1, "RRRRRRR",          6,  1, 6},
+        { 7,  1, "RRRRR",            6,  1, 6},
+        { 7,  1, "RRRRRR",           7,  2, 6}, // the strip follows
+        { 7,  7, "LLLLL",            2,  2, 1},
+        { 7,  7, "LLLLLL",           1,  1, 1},
+        { 7,  1, ">6",               7,  2, 6},
+        {40, 20, "}",               20, 26, 0},
+        {40, 20, "}}}}",            20, 35, 0},
+        {40, 20, "<",               20, 19, 2},
+        {40, 20, "{{{{",            20,  1, 0},
+        {40, 20, "[",               20,  1, 0},
+        {40, 20, "[6",               6,  1, 6},
+        {40, 20, "]R",              21, 35, 0}, // left of what is seen: a step right scrolls nothing
+        {40, 20, "]L",              19, 34, 0}, // one step each
+        {40, 20, "[R",              21,  2, 0},
+        {40, 20, ">L",              19, 20, 0},
+    };
+    // clang-format on
+    for (const Row& row : rows) {
+        SCOPED_TRACE(std::string(row.moves) + " with " + std::to_string(row.count));
+        std::string moves(row.moves);
+        std::erase(moves, ' ');
+        const IconStrip strip = Play(OpenStrip(row.count, row.wanted), moves);
+        EXPECT_EQ(strip, (IconStrip{row.count, row.selected, row.scroll}));
+        EXPECT_EQ(SelectedSlot(strip).value_or(0), row.slot);
+    }
+}
+
+TEST(IconStrip, ReachesEveryIconAndFillsItsSlots) {
+    for (std::int16_t count = 1; count <= 20; ++count) {
+        const IconStrip last = Scroll(OpenStrip(count, 1), ScrollStep::Last);
+        const std::int16_t full = std::min(count, kIconSlots);
+        EXPECT_EQ(PositionInSlot(last, full), count);
+        EXPECT_EQ(PositionInSlot(last, 7), std::nullopt);
+        EXPECT_EQ(PositionInSlot(OpenStrip(count, 1), full), full);
+    }
+    EXPECT_EQ(PositionInSlot(OpenStrip(3, 1), 4), std::nullopt);
+    EXPECT_EQ(ScrollTo(OpenStrip(40, 1), 100'000).scroll, 35);
+    EXPECT_EQ(ScrollTo(OpenStrip(40, 1), -100'000).scroll, 1);
+}
+
+TEST(IconStrip, BeginsWithTheSuitesOwnIcon) {
+    EXPECT_EQ(DefaultPosition({L"A", L"vdnc32", L"VDNC32"}), 2);
+    EXPECT_EQ(DefaultPosition({L"A", L"VDNC321", L"VDNC"}), 1);
+    EXPECT_EQ(DefaultPosition({}), 1);
+}
+
+} // namespace
