@@ -50,6 +50,7 @@ bool HasRoomToRewrite(const std::wstring& file, std::size_t added) {
     constexpr std::size_t kUtf16 = 2; // a file of 16-bit characters keeps them
     if (const auto existing = Open(file, OPEN_EXISTING))
         return CanGrow(existing.Get(), kUtf16 * (added + GrowthOfLines(existing.Get())));
+    if (GetLastError() != ERROR_FILE_NOT_FOUND) return false; // that error is the one to tell of
     bool fits = false;
     if (const auto made = Open(file, CREATE_NEW))
         fits = CanGrow(made.Get(), kUtf16 * added);
