@@ -9,7 +9,7 @@ NdwSession ndwSession;
 
 namespace {
 
-constexpr int kSteps = 14; // pages 3 to 16
+constexpr int kSteps = kNdwNamePage - kNdwPortPage + 1;
 
 void Load(frmWizard&) { NdwSetDefaults(); }
 
@@ -18,7 +18,8 @@ void BeforeShow(frmWizard& form) {
     form.cmdBack.Text(isFinal ? kNewCaption : kBackCaption);
     if (isFinal && startUp.ConfigLaunch) form.cmdBack.Visible(false);
     const bool isStep = form.PageNo >= kNdwPortPage && form.PageNo <= kNdwNamePage;
-    form.lblStep.Text(L"Step " + std::to_wstring(form.PageNo - 2) + L"/" + std::to_wstring(kSteps));
+    form.lblStep.Text(L"Step " + std::to_wstring(form.PageNo - kNdwPortPage + 1) + L"/" +
+                      std::to_wstring(kSteps));
     form.lblStep.Visible(isStep);
     if (form.PageNo == kNdwPortPage) form.ConfigWritten = false;
 }
