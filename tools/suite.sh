@@ -22,9 +22,16 @@ lay_out_suite() {
     fi
 }
 
-# Z: of every prefix is the root of this computer's files.
+# C: is the prefix in use; Z: of every prefix is the root of this computer's files.
 windows_path() {
-    printf 'Z:%s' "$(realpath "$1" | tr / '\\')"
+    local path drive
+    path=$(realpath "$1")
+    drive=$(realpath "$WINEPREFIX/drive_c")
+    case $path in
+    "$drive"/*) path=C:${path#"$drive"} ;;
+    *) path=Z:$path ;;
+    esac
+    printf '%s' "${path//\//\\}"
 }
 
 register_suite() {

@@ -1,22 +1,27 @@
 #!/bin/bash
 # Walks every page of a wizard under Xvfb and leaves one picture a page in build/pages.
-#   tools/tour.sh [--dpi N] [arguments of the wizard]
+#   tools/tour.sh [--dpi N] [--contrast] [--denied] [arguments of the wizard]
+#   --contrast   in a high-contrast scheme
+#   --denied     for a user who may not write the settings: the permission page alone
 # The release program and the tools must have been built.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source tools/prefix.sh
 source tools/suite.sh
 
-dpi=96
-if [ "${1:-}" = --dpi ]; then
-    dpi=$2
-    shift 2
-fi
-suite=build/suite
-work=build/tour-$dpi
+dpi=96 contrast= denied=
+while :; do
+    case ${1:-} in
+    --dpi) dpi=$2 && shift ;;
+    --contrast) contrast=-contrast ;;
+    --denied) denied=yes ;;
+    *) break ;;
+    esac
+    shift
+done
+work=build/tour-$dpi$contrast
 mkdir -p build/pages "$work"
-rm -f "$work/display" "$work"/*.bmp "$suite/Settings/Tour Mill.DCP"
-lay_out_suite "$suite"
+rm -f "$work/display" "$work"/*.bmp
 
 Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp 3> "$work/display" 2> /dev/null &
 server=$!
@@ -31,17 +36,46 @@ until [ -s "$work/display" ]; do
 done
 export DISPLAY=:$(cat "$work/display")
 
-use_prefix "tour-$dpi" x11
+# White text on black, with the colours of the scheme of that name that comes with the system.
+contrast_colours() {
+    local name
+    printf 'REGEDIT4\n\n[HKEY_CURRENT_USER\\Control Panel\\Colors]\n'
+    for name in ButtonFace Window Menu MenuBar Scrollbar InfoWindow AppWorkSpace HilightText; do
+        echo "\"$name\"=\"0 0 0\""
+    done
+    for name in WindowText ButtonText MenuText ButtonDkShadow WindowFrame InfoText TitleText; do
+        echo "\"$name\"=\"255 255 255\""
+    done
+    echo '"ButtonShadow"="128 128 128"'
+    echo '"ButtonHilight"="192 192 192"'
+    echo '"ButtonLight"="192 192 192"'
+    echo '"GrayText"="63 242 63"'
+    echo '"HotTrackingColor"="255 255 0"'
+    echo '"Hilight"="26 235 255"'
+    echo '"ActiveTitle"="55 0 110"'
+    echo '"GradientActiveTitle"="55 0 110"'
+}
+
+use_prefix "tour-$dpi$contrast" x11
 wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$dpi" /f > /dev/null 2>&1
+if [ -n "$contrast" ]; then
+    contrast_colours > "$work/scheme.reg"
+    wine reg import "$(windows_path "$work/scheme.reg")" > /dev/null 2>&1
+    wine reg add 'HKCU\Software\Microsoft\Windows\CurrentVersion\ThemeManager' /v ThemeActive /d 0 /f > /dev/null 2>&1
+fi
+# On the prefix's own drive, so that a page which names a path shows one that a reader might have.
+suite="$WINEPREFIX/drive_c/Varnel DNC"
+lay_out_suite "$suite"
+[ -z "$denied" ] || rm "$suite/Settings/VarnelDnc.ini"
 register_suite "$suite"
 status=0
 wine build/release/tour.exe "$(windows_path "$suite")\\VWizard.exe" "$(windows_path "$work")" "$@" || status=$?
 
-suffix=
-[ "$dpi" = 96 ] || suffix=-${dpi}dpi
+suffix=$contrast
+[ "$dpi" = 96 ] || suffix=-${dpi}dpi$contrast
 for bitmap in "$work"/*.bmp; do
     [ -e "$bitmap" ] || continue
-    /usr/bin/convert "$bitmap" "build/pages/$(basename "$bitmap" .bmp)$suffix.png"
+    /usr/bin/convert "$bitmap" -strip "PNG8:build/pages/$(basename "$bitmap" .bmp)$suffix.png"
 done
 echo "Pictures of the pages: build/pages"
 exit "$status"

@@ -1,5 +1,6 @@
 // Walks one wizard from its first page to its last by its own buttons and pictures every page.
-//   tour PROGRAM FOLDER [ARGUMENTS]   leaves FOLDER\ndw-01.bmp ... or FOLDER\ftw-01.bmp ...
+//   tour PROGRAM FOLDER [ARGUMENTS]   leaves FOLDER\ndw-01.bmp ... or FOLDER\ftw-01.bmp ...,
+//                                     or FOLDER\permission.bmp where the wizard has nothing else to show
 #include "tools/tour/Capture.h"
 #include "tools/tour/Windows.h"
 
@@ -24,10 +25,11 @@ class Tour {
 
     bool Run() {
         if (!Start()) return Fail(L"the wizard did not open its window");
+        if (NextButton() == nullptr) return TakeLeave();
         for (step_ = 1; step_ <= 30; ++step_) {
             Settle(main_);
             FillIn();
-            Picture(main_, L"");
+            PicturePage(main_, L"");
             if (!GoOn()) return Fail(L"the page did not change");
             if (Ended()) return true;
         }
@@ -45,7 +47,7 @@ class Tour {
         return Wait([this] {
             for (const HWND window : WindowsOf(process_.dwProcessId))
                 if (ClassOf(window).rfind(L"VWizard", 0) == 0) main_ = window;
-            return main_ != nullptr && NextButton() != nullptr;
+            return main_ != nullptr && (NextButton() != nullptr || CloseButton() != nullptr);
         });
     }
 
@@ -64,6 +66,16 @@ class Tour {
         for (const wchar_t* caption : {L"&Next >", L"&Create", L"&Finish"})
             if (const HWND button = FindControl(main_, L"Button", caption)) return button;
         return nullptr;
+    }
+
+    // Only the permission page has one.
+    [[nodiscard]] HWND CloseButton() const { return FindControl(main_, L"Button", L"&Close"); }
+
+    bool TakeLeave() {
+        Settle(main_);
+        Picture(main_, L"\\permission.bmp");
+        Press(CloseButton());
+        return Wait([this] { return Ended(); });
     }
 
     [[nodiscard]] int PageNumber() const {
@@ -87,7 +99,7 @@ class Tour {
     void FillIn() const {
         const int page = PageNumber();
         if (newDevice_ && page == 5) SendMessageW(FindControl(main_, L"Button", L"ASCII"), BM_CLICK, 0, 0);
-        if (newDevice_ && page == 16) Type(L"Tour Mill");
+        if (FindControl(main_, L"Button", L"&Create") != nullptr) Type(L"Tour Mill");
         if (!newDevice_ && page == 9) Type(L"C:\\CNC Programs");
         if (!newDevice_ && page == 12) SendMessageW(FindControl(main_, L"ListBox", L""), LB_SETSEL, TRUE, 0);
         Settle(main_);
@@ -106,7 +118,7 @@ class Tour {
             if (Ended()) return true;
             if (const HWND box = Asking()) {
                 Settle(box);
-                Picture(box, boxes++ == 0 ? L"-box" : L"-box2");
+                PicturePage(box, boxes++ == 0 ? L"-box" : L"-box2");
                 Answer(box);
                 return false;
             }
@@ -130,16 +142,20 @@ class Tour {
             }
     }
 
-    void Picture(HWND window, const wchar_t* suffix) const {
+    void PicturePage(HWND window, const wchar_t* suffix) const {
         std::array<wchar_t, 32> name{};
         wsprintfW(name.data(), L"\\%s-%02d%s.bmp", newDevice_ ? L"ndw" : L"ftw", PageNumber(), suffix);
+        Picture(window, name.data());
+    }
+
+    void Picture(HWND window, const wchar_t* name) const {
         RECT area{};
         GetWindowRect(window, &area);
         RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
         GdiFlush();
         // The screen is drawn by another process, which needs a moment after the last call.
         WaitForSingleObject(process_.hProcess, 150);
-        if (CaptureScreen(area, folder_ + name.data())) std::printf("%ls\n", name.data() + 1);
+        if (CaptureScreen(area, folder_ + name)) std::printf("%ls\n", name + 1);
     }
 
     bool Fail(const wchar_t* reason) const {
