@@ -55,8 +55,7 @@ void RichText::Made() {
 bool RichText::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
     if (message != WM_GETDLGCODE) return false;
     // The control would keep Tab, Enter and Esc for itself and select everything when Tab enters it.
-    result = SystemProcedure(message, wParam, lParam) &
-             ~(DLGC_WANTALLKEYS | DLGC_WANTTAB | DLGC_WANTMESSAGE | DLGC_HASSETSEL);
+    result = SystemProcedure(message, wParam, lParam) & ~(DLGC_WANTALLKEYS | DLGC_WANTTAB | DLGC_HASSETSEL);
     return true;
 }
 

@@ -262,7 +262,7 @@ WizardDriver::Box WizardDriver::AnswerBox(int button) const {
         },
         L"a message box with button " + std::to_wstring(button));
     HWND text = GetDlgItem(box, kBoxText);
-    const Box answer{TextOf(box), text != nullptr ? TextOf(text) : L""};
+    Box answer{TextOf(box), text != nullptr ? TextOf(text) : L""};
     Press(GetDlgItem(box, button));
     Until([box] { return !IsWindow(box) || !IsWindowVisible(box); },
           L"the message box to go: " + answer.text);
