@@ -6,7 +6,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 folders=()
-for folder in win app wizard shell ftw ndw tools benchmark soak tests; do
+for folder in win app wizard shell ftw ndw tools benchmark endurance tests; do
     [ -d "$folder" ] && folders+=("$folder")
 done
 sources() { find "${folders[@]}" -name '*.cpp' "$@" | sort; }

@@ -1,5 +1,5 @@
 #include "app/Pattern.h"
-#include "soak/fuzz/Fuzz.h"
+#include "endurance/fuzz/Fuzz.h"
 
 namespace {
 

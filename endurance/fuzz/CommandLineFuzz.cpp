@@ -1,5 +1,5 @@
 #include "app/CommandLine.h"
-#include "soak/fuzz/Fuzz.h"
+#include "endurance/fuzz/Fuzz.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "soak/fuzz/Fuzz.h"
+#include "endurance/fuzz/Fuzz.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
     Generator from({data, size});

@@ -1,7 +1,7 @@
 #!/bin/bash
 # Feeds every fuzz program with made-up input, beginning with the kept corpus, and prints one line for each.
-#   soak/fuzz/run.sh RUNS   non-zero on any failure; the input that failed is kept in build/fuzz
-#   soak/fuzz/run.sh keep   adds what was found to the corpus, as far as it reaches other code
+#   endurance/fuzz/run.sh RUNS   non-zero on any failure; the input that failed is kept in build/fuzz
+#   endurance/fuzz/run.sh keep   adds what was found to the corpus, as far as it reaches other code
 # A run begins with the corpus alone, so that the same sources give the same run.
 # The corpus is a text for each program: one input a line, in hexadecimal digits.
 set -euo pipefail
@@ -17,10 +17,10 @@ unpack() { perl -ne 'chomp; open my $input, ">", "'"$2"'/kept$."; print $input p
 pack() { find "$1" -type f -exec sh -c 'od -An -v -tx1 "$1" | tr -d " \n"; echo' - {} \; | sort -u; }
 
 status=0
-for source in soak/fuzz/*Fuzz.cpp; do
+for source in endurance/fuzz/*Fuzz.cpp; do
     subject=$(basename "$source" Fuzz.cpp)
     program=build/native/fuzz_$subject
-    kept=soak/fuzz/corpus/$subject.hex
+    kept=endurance/fuzz/corpus/$subject.hex
     found=build/fuzz/$subject
     log=build/fuzz/$subject.log
     [ "$1" = keep ] || rm -rf "$found"
@@ -28,7 +28,7 @@ for source in soak/fuzz/*Fuzz.cpp; do
     [ ! -e "$kept" ] || unpack "$kept" "$found"
     if [ "$1" = keep ]; then
         rm -rf "$found.least"
-        mkdir -p "$found.least" soak/fuzz/corpus
+        mkdir -p "$found.least" endurance/fuzz/corpus
         "$program" -merge=1 -use_counters=0 -verbosity=0 "$found.least" "$found" > "$log" 2>&1
         pack "$found.least" > "$kept"
         continue

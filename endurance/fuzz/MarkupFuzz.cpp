@@ -1,4 +1,4 @@
-#include "soak/fuzz/Fuzz.h"
+#include "endurance/fuzz/Fuzz.h"
 #include "tests/wizard/MemoryRichText.h"
 #include "wizard/Markup.h"
 

@@ -1,6 +1,6 @@
 #include "app/Names.h"
 #include "app/Paths.h"
-#include "soak/fuzz/Fuzz.h"
+#include "endurance/fuzz/Fuzz.h"
 
 void Examine(Generator& from) {
     constexpr std::size_t kNone = std::wstring::npos;

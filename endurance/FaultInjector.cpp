@@ -1,0 +1,201 @@
+// Linked in front of the wizard's own objects: replaces the entries of the program's import table by calls
+// that can fail. The environment says which: VWIZARD_FAIL is the number of the call, from 1, with a "+"
+// behind it when every later one is to fail too. At the end the calls are listed in VWIZARD_FAIL_LOG.
+#include <windows.h>
+
+#include <objbase.h>
+#include <shellapi.h>
+#include <shlobj.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <string>
+#include <vector>
+
+namespace {
+
+long failing = 0;
+bool everAfter = false;
+std::vector<const char*> calls; // of the program's one thread
+
+bool FailsNow(const char* name) {
+    calls.push_back(name);
+    const long number = static_cast<long>(calls.size());
+    return number == failing || (everAfter && failing != 0 && number > failing);
+}
+
+// The name of a function as a template argument.
+template <std::size_t N> struct Name {
+    char text[N]{};
+    constexpr Name(const char (&name)[N]) { // NOLINT(google-explicit-constructor)
+        for (std::size_t i = 0; i < N; ++i)
+            text[i] = name[i];
+    }
+};
+
+struct Row {
+    const char* name;
+    void* replacement;
+    void** original;
+    void (*setUp)(std::uintptr_t result, DWORD error);
+    std::uintptr_t result; // of the call that fails
+    DWORD error;           // its last error
+};
+
+template <Name kName, class Function> struct Failing;
+template <Name kName, class Result, class... Arguments>
+struct Failing<kName, Result(WINAPI*)(Arguments...)> {
+    static inline void* original = nullptr;
+    static inline std::uintptr_t result = 0;
+    static inline DWORD error = 0;
+
+    static void SetUp(std::uintptr_t failed, DWORD code) {
+        result = failed;
+        error = code;
+    }
+    static Result WINAPI Call(Arguments... arguments) {
+        if (!FailsNow(kName.text)) return reinterpret_cast<Result(WINAPI*)(Arguments...)>(original)(arguments...);
+        SetLastError(error);
+        return (Result)result; // an integer or a handle
+    }
+};
+
+template <Name kName, class Function> Row Fails(std::uintptr_t result, DWORD error) {
+    using Replaced = Failing<kName, Function>;
+    return {kName.text, reinterpret_cast<void*>(&Replaced::Call), &Replaced::original, &Replaced::SetUp, result, error};
+}
+
+#define FAILS(function, result, error) Fails<#function, decltype(&function)>(result, error)
+
+constexpr std::uintptr_t kNoHandle = static_cast<std::uintptr_t>(-1);
+constexpr std::uintptr_t kNoAttributes = INVALID_FILE_ATTRIBUTES;
+constexpr std::uintptr_t kFailed = static_cast<std::uintptr_t>(E_FAIL);
+
+// clang-format off
+const Row kRows[] = {
+    FAILS(CreateFileW,                kNoHandle,           ERROR_ACCESS_DENIED),
+    FAILS(ReadFile,                   FALSE,               ERROR_READ_FAULT),
+    FAILS(WriteFile,                  FALSE,               ERROR_DISK_FULL),
+    FAILS(DeleteFileW,                FALSE,               ERROR_SHARING_VIOLATION),
+    FAILS(MoveFileExW,                FALSE,               ERROR_ACCESS_DENIED),
+    FAILS(CopyFileW,                  FALSE,               ERROR_DISK_FULL),
+    FAILS(CreateDirectoryW,           FALSE,               ERROR_ACCESS_DENIED),
+    FAILS(SetCurrentDirectoryW,       FALSE,               ERROR_PATH_NOT_FOUND),
+    FAILS(GetFileAttributesW,         kNoAttributes,       ERROR_ACCESS_DENIED),
+    FAILS(GetFileAttributesExW,       FALSE,               ERROR_ACCESS_DENIED),
+    FAILS(SetFileAttributesW,         FALSE,               ERROR_ACCESS_DENIED),
+    FAILS(GetFileSizeEx,              FALSE,               ERROR_INVALID_HANDLE),
+    FAILS(GetFileSize,                kNoAttributes,       ERROR_INVALID_HANDLE),
+    FAILS(GetFileType,                FILE_TYPE_UNKNOWN,   ERROR_INVALID_HANDLE),
+    FAILS(SetFilePointerEx,           FALSE,               ERROR_INVALID_HANDLE),
+    FAILS(SetEndOfFile,               FALSE,               ERROR_DISK_FULL),
+    FAILS(FlushFileBuffers,           FALSE,               ERROR_DISK_FULL),
+    FAILS(GetDiskFreeSpaceExW,        FALSE,               ERROR_ACCESS_DENIED),
+    FAILS(GetFullPathNameW,           0,                   ERROR_INVALID_NAME),
+    FAILS(FindFirstFileW,             kNoHandle,           ERROR_ACCESS_DENIED),
+    FAILS(FindNextFileW,              FALSE,               ERROR_NO_MORE_FILES),
+    FAILS(GetPrivateProfileStringA,   0,                   ERROR_FILE_NOT_FOUND),
+    FAILS(GetPrivateProfileStringW,   0,                   ERROR_FILE_NOT_FOUND),
+    FAILS(WritePrivateProfileStringA, FALSE,               ERROR_ACCESS_DENIED),
+    FAILS(WritePrivateProfileStringW, FALSE,               ERROR_ACCESS_DENIED),
+    FAILS(RegOpenKeyExA,              ERROR_ACCESS_DENIED, 0),
+    FAILS(RegOpenKeyExW,              ERROR_ACCESS_DENIED, 0),
+    FAILS(RegQueryValueExA,           ERROR_MORE_DATA,     0),
+    FAILS(RegQueryValueExW,           ERROR_MORE_DATA,     0),
+    FAILS(RegEnumValueW,              ERROR_ACCESS_DENIED, 0),
+    FAILS(RegDeleteValueA,            ERROR_ACCESS_DENIED, 0),
+    FAILS(RegDeleteValueW,            ERROR_ACCESS_DENIED, 0),
+    FAILS(SHGetSpecialFolderLocation, kFailed,             0),
+    FAILS(SHGetPathFromIDListW,       FALSE,               0),
+    FAILS(SHFileOperationW,           ERROR_ACCESS_DENIED, 0),
+    FAILS(ShellExecuteW,              SE_ERR_ACCESSDENIED, ERROR_ACCESS_DENIED),
+    FAILS(ShellExecuteExW,            FALSE,               ERROR_ACCESS_DENIED),
+    FAILS(CreateProcessW,             FALSE,               ERROR_FILE_NOT_FOUND),
+    FAILS(OleInitialize,              kFailed,             0),
+    FAILS(CoInitializeEx,             kFailed,             0),
+    FAILS(CoCreateInstance,           kFailed,             0),
+};
+// clang-format on
+
+#undef FAILS
+
+template <class Type> Type* At(std::uintptr_t offset) {
+    return reinterpret_cast<Type*>(reinterpret_cast<std::uintptr_t>(GetModuleHandleW(nullptr)) + offset);
+}
+
+void Replace(const char* name, IMAGE_THUNK_DATA& entry) {
+    for (const Row& row : kRows) {
+        if (std::strcmp(row.name, name) != 0) continue;
+        DWORD protection = 0;
+        VirtualProtect(&entry, sizeof entry, PAGE_READWRITE, &protection);
+        *row.original = reinterpret_cast<void*>(entry.u1.Function);
+        entry.u1.Function = reinterpret_cast<std::uintptr_t>(row.replacement);
+        VirtualProtect(&entry, sizeof entry, protection, &protection);
+        row.setUp(row.result, row.error);
+    }
+}
+
+void ReplaceImports() {
+    const auto* headers = At<IMAGE_NT_HEADERS>(static_cast<std::uintptr_t>(At<IMAGE_DOS_HEADER>(0)->e_lfanew));
+    const auto& imports = headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
+    for (auto* library = At<IMAGE_IMPORT_DESCRIPTOR>(imports.VirtualAddress); library->Name != 0; ++library) {
+        auto* names = At<IMAGE_THUNK_DATA>(library->OriginalFirstThunk);
+        auto* entries = At<IMAGE_THUNK_DATA>(library->FirstThunk);
+        for (; names->u1.AddressOfData != 0; ++names, ++entries)
+            if (!IMAGE_SNAP_BY_ORDINAL(names->u1.Ordinal))
+                Replace(At<IMAGE_IMPORT_BY_NAME>(names->u1.AddressOfData)->Name, *entries);
+    }
+}
+
+// What the saving of a link does is reached through an object: its class's own table is patched.
+HRESULT STDMETHODCALLTYPE FailingSave(IPersistFile* file, LPCOLESTR path, BOOL remember);
+decltype(&FailingSave) originalSave = nullptr;
+HRESULT STDMETHODCALLTYPE FailingSave(IPersistFile* file, LPCOLESTR path, BOOL remember) {
+    return FailsNow("IPersistFile::Save") ? E_FAIL : originalSave(file, path, remember);
+}
+
+void ReplaceSave() {
+    constexpr int kSaveSlot = 6; // behind IUnknown, GetClassID, IsDirty and Load
+    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
+    IPersistFile* file = nullptr;
+    const HRESULT made = CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IPersistFile,
+                                          reinterpret_cast<void**>(&file));
+    if (SUCCEEDED(made)) {
+        void** slot = *reinterpret_cast<void***>(file) + kSaveSlot;
+        DWORD protection = 0;
+        VirtualProtect(slot, sizeof *slot, PAGE_READWRITE, &protection);
+        originalSave = reinterpret_cast<decltype(&FailingSave)>(*slot);
+        *slot = reinterpret_cast<void*>(&FailingSave);
+        VirtualProtect(slot, sizeof *slot, protection, &protection);
+        file->Release();
+    }
+    CoUninitialize();
+}
+
+class Injector {
+  public:
+    Injector() {
+        const char* which = std::getenv("VWIZARD_FAIL");
+        failing = which ? std::strtol(which, nullptr, 10) : 0;
+        everAfter = which && std::strchr(which, '+') != nullptr;
+        calls.reserve(4096);
+        ReplaceSave();
+        ReplaceImports();
+    }
+    ~Injector() {
+        const char* path = std::getenv("VWIZARD_FAIL_LOG");
+        if (!path) return;
+        failing = 0;
+        std::string list;
+        for (const char* name : calls)
+            list += std::string(name) + "\n";
+        const HANDLE file = CreateFileA(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+        DWORD written = 0;
+        WriteFile(file, list.data(), static_cast<DWORD>(list.size()), &written, nullptr);
+        CloseHandle(file);
+    }
+};
+
+const Injector injector;
+
+} // namespace

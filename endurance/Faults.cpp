@@ -1,0 +1,95 @@
+// Each call to the system that a whole run of either wizard makes fails, once alone and once with all that
+// follow it: the wizard goes on or ends, without a crash, and says only what it has to say.
+#include "endurance/Soak.h"
+#include "endurance/Walker.h"
+
+#include "tests/support/DemoSuite.h"
+
+#include <algorithm>
+#include <set>
+#include <sstream>
+
+namespace {
+
+constexpr DWORD kVariable = 1024;
+
+std::wstring FromEnvironment(const wchar_t* name) {
+    std::wstring value(kVariable, L'\0');
+    value.resize(GetEnvironmentVariableW(name, value.data(), kVariable));
+    return value;
+}
+
+struct Scene {
+    const wchar_t* arguments;
+    DemoSuite suite;
+    std::vector<std::string> calls; // of an undisturbed run
+
+    explicit Scene(const wchar_t* mode) : arguments(mode) {
+        if (!CopyFileW(FromEnvironment(L"SOAK_FAULTY").c_str(), (suite.Folder() + L"VWizard.exe").c_str(), FALSE))
+            throw std::runtime_error("cannot copy the program with faults");
+        suite.AddIcons();
+        CreateDirectoryW((suite.Folder() + L"Samples").c_str(), nullptr);
+        WriteFileBytes(suite.Folder() + L"Samples\\Sample.dcp", "sample");
+    }
+    std::wstring Log() const { return suite.Folder() + L"calls.txt"; }
+};
+
+// Selects what makes the wizard do more: the first sample, the shortcuts.
+void AskForMore(const Walker& walker, const std::wstring& heading) {
+    for (HWND child : ChildrenOf(walker.Main())) {
+        const std::wstring kind = ClassOf(child);
+        if (heading.starts_with(L"Import Sample") && kind == L"ListBox") Ask(child, LB_SETSEL, TRUE, 0);
+        if (heading.find(L"CNC file location") != std::wstring::npos && kind == L"Edit") {
+            const std::wstring folder = L"C:\\CNC faults";
+            Ask(child, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(folder.c_str()));
+        }
+    }
+}
+
+Journey Run(Scene& scene, const std::wstring& failing) {
+    for (const std::wstring& file : FileNames(scene.suite.Settings()))
+        if (file != L"VarnelDnc.ini") DeleteFileW((scene.suite.Settings() + file).c_str());
+    RemoveDirectoryW(L"C:\\CNC faults");
+    WriteFileBytes(scene.suite.Settings() + L"VarnelDnc.ini", "[General]\r\nKept=yes\r\n");
+    SetEnvironmentVariableW(L"VWIZARD_FAIL", failing.c_str());
+    const WizardDriver wizard(scene.suite, scene.arguments, WizardDriver::Wait::No);
+    Walker walker(wizard);
+    walker.onPage = [&](const std::wstring& heading) { AskForMore(walker, heading); };
+    return walker.Walk();
+}
+
+void RunAll(Tally& tally, Scene& scene) {
+    SetEnvironmentVariableW(L"VWIZARD_FAIL_LOG", scene.Log().c_str());
+    const Journey whole = Run(scene, L"0");
+    tally.Expect(whole.trouble.empty() && whole.Passed(L"Finished"), L"the undisturbed run: " + whole.trouble);
+    std::istringstream log(FileBytes(scene.Log()));
+    for (std::string name; std::getline(log, name);)
+        scene.calls.push_back(name);
+    SetEnvironmentVariableW(L"VWIZARD_FAIL_LOG", nullptr);
+    const std::size_t step = tally.Quick() ? std::max<std::size_t>(1, scene.calls.size() / 6) : 1;
+    for (std::size_t call = 1 + tally.Seed() % step; call <= scene.calls.size(); call += step)
+        for (const wchar_t* after : {L"", L"+"}) {
+            const std::string& name = scene.calls[call - 1];
+            const std::wstring which = std::to_wstring(call) + after;
+            const std::wstring trouble = Run(scene, which).trouble;
+            tally.Expect(trouble.empty(), std::wstring(scene.arguments) + L" call " + which + L" " +
+                                              std::wstring(name.begin(), name.end()) + L": " + trouble);
+            tally.Expect(scene.suite.Setting(L"Kept") == L"yes", L"call " + which + L": a key was lost");
+        }
+}
+
+} // namespace
+
+void CheckFaults(Tally& tally) {
+    std::set<std::string> kinds;
+    std::size_t points = 0;
+    for (const wchar_t* mode : {L"", L"/NDW"}) {
+        Scene scene(mode);
+        RunAll(tally, scene);
+        points += scene.calls.size();
+        kinds.insert(scene.calls.begin(), scene.calls.end());
+    }
+    SetEnvironmentVariableW(L"VWIZARD_FAIL", nullptr);
+    tally.Expect(points >= 50, L"only " + std::to_wstring(points) + L" points");
+    tally.Note(std::to_string(points) + " points of " + std::to_string(kinds.size()) + " functions");
+}

@@ -1,0 +1,137 @@
+// Each of the bad texts, and names about as long as a path may be, as the name of a configuration: a message
+// or just one regular file of just that name, and nothing anywhere else.
+#include "endurance/BadText.h"
+#include "endurance/Soak.h"
+#include "endurance/Walker.h"
+
+#include "tests/support/DemoSuite.h"
+
+#include <algorithm>
+#include <set>
+
+namespace {
+
+constexpr std::size_t kLongestPath = 259;
+constexpr std::size_t kFileSize = 5449;
+
+// Every file and folder below `folder`, with size.
+void AddTree(const std::wstring& folder, std::set<std::wstring>& tree) {
+    WIN32_FIND_DATAW found{};
+    const HANDLE search = FindFirstFileW((folder + L"*").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return;
+    do {
+        const std::wstring name = found.cFileName;
+        if (name == L"." || name == L"..") continue;
+        const bool isFolder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+        tree.insert(folder + name + (isFolder ? L"\\" : L"|" + std::to_wstring(found.nFileSizeLow)));
+        if (isFolder) AddTree(folder + name + L"\\", tree);
+    } while (FindNextFileW(search, &found));
+    FindClose(search);
+}
+
+std::set<std::wstring> Tree(const std::wstring& folder) {
+    std::set<std::wstring> tree;
+    AddTree(folder, tree);
+    return tree;
+}
+
+// What is only in `after`, or has another size there; what has gone carries a "-".
+std::vector<std::wstring> Changes(const std::set<std::wstring>& before, const std::set<std::wstring>& after) {
+    std::vector<std::wstring> changes;
+    std::set_difference(after.begin(), after.end(), before.begin(), before.end(), std::back_inserter(changes));
+    for (const std::wstring& entry : before)
+        if (!after.contains(entry)) changes.push_back(L"-" + entry);
+    return changes;
+}
+
+std::wstring Shown(const std::wstring& text) {
+    std::wstring shown;
+    for (const wchar_t c : text.substr(0, 40)) {
+        wchar_t code[8];
+        if (c >= L' ' && c < 0x7F)
+            shown += c;
+        else if (swprintf(code, 8, L"\\x%04X", static_cast<unsigned>(c)) > 0)
+            shown += code;
+    }
+    return L"\"" + shown + L"\" (" + std::to_wstring(text.size()) + L")";
+}
+
+std::wstring WithoutBlanks(const std::wstring& text) {
+    const auto first = text.find_first_not_of(L' ');
+    if (first == std::wstring::npos) return {};
+    return text.substr(first, text.find_last_not_of(L' ') - first + 1);
+}
+
+std::vector<BadText> AllNames(std::size_t longest) {
+    std::vector<BadText> names = BadTexts();
+    for (const std::size_t length : {std::size_t{1}, longest - 1, longest})
+        names.push_back({std::wstring(length, length == longest ? L'm' : L'l'), As::File});
+    names.push_back({std::wstring(longest + 1, L'l'), As::Refused});
+    return names;
+}
+
+// Creates the configuration on the name page; the message when it was refused, "" when it was not.
+std::wstring Create(Walker& walker) {
+    Journey tried;
+    for (HWND child : ChildrenOf(walker.Main()))
+        if (ClassOf(child) == L"Edit")
+            Ask(child, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(walker.name.c_str()));
+    walker.Press(walker.Next());
+    std::wstring message;
+    while (walker.WaitUntilReady()) {
+        HWND modal = walker.Modal();
+        if (!modal) break;
+        message += walker.AnswerModal(modal);
+    }
+    return message;
+}
+
+void Try(Tally& tally, const DemoSuite& suite, Walker& walker, const BadText& name) {
+    const std::wstring shown = Shown(name.text);
+    walker.name = name.text;
+    const auto before = Tree(suite.Folder());
+    const std::wstring message = Create(walker);
+    const auto changes = Changes(before, Tree(suite.Folder()));
+    const bool created = walker.Heading() == L"Finished";
+    if (created) {
+        const std::wstring path = suite.Settings() + WithoutBlanks(name.text) + L".DCP";
+        const bool just = changes.size() == 1 && changes[0] == path + L"|" + std::to_wstring(kFileSize);
+        tally.Expect(just && name.name == As::File,
+                     shown + L" made " +
+                         (changes.empty() ? L"nothing" : std::to_wstring(changes.size()) + L": " + changes[0]));
+        SendNotifyMessageW(walker.Button(L"&New"), BM_CLICK, 0, 0);
+        tally.Expect(walker.Walk().trouble.empty(), shown + L": no way back to the name page");
+    } else {
+        tally.Expect(changes.empty() && name.name == As::Refused && !message.empty(),
+                     shown + L" was refused with \"" + message + L"\"" +
+                         (changes.empty() ? L"" : L" but made " + changes[0]));
+    }
+}
+
+// Ports of the prefix that lead to a plain file: whoever opens them for writing leaves a trace.
+bool DevicesUntouched() {
+    wchar_t file[MAX_PATH] = L"";
+    if (!GetEnvironmentVariableW(L"SOAK_DEVICE", file, MAX_PATH)) return false;
+    return FileBytes(file) == "untouched\n";
+}
+
+} // namespace
+
+void CheckNames(Tally& tally) {
+    const DemoSuite suite;
+    const std::size_t longest = kLongestPath - suite.Settings().size() - 4;
+    const WizardDriver wizard(suite, L"/NDW");
+    Walker walker(wizard);
+    walker.stopAt = L"Configuration Name";
+    tally.Expect(walker.Walk().trouble.empty(), L"the way to the name page");
+    const auto drive = Tree(L"C:\\");
+    const auto names = AllNames(longest);
+    const std::size_t step = tally.Quick() ? 4 : 1;
+    for (std::size_t i = tally.Seed() % step; i < names.size(); i += step)
+        Try(tally, suite, walker, names[i]);
+    for (const std::wstring& change : Changes(drive, Tree(L"C:\\")))
+        tally.Expect(change.starts_with(suite.Settings()) || change.find(L".log|") != std::wstring::npos,
+                     L"changed elsewhere: " + change);
+    tally.Expect(DevicesUntouched(), L"a port was written to");
+    tally.Note(std::to_string(names.size()) + " names");
+}

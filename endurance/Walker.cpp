@@ -1,0 +1,188 @@
+#include "endurance/Walker.h"
+
+#include "tests/support/DemoSuite.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace {
+
+constexpr UINT kAnswerTime_ms = 10000;
+constexpr DWORD kPatience_ms = 20000;
+constexpr int kHeadingId = 120;
+constexpr int kBoxTextId = 65535;
+constexpr int kMostVisits = 4; // of one page without getting on
+
+// How every message begins that has a reason to be shown on a walk.
+constexpr std::wstring_view kKnownMessages[] = {
+    L"Unable to write data to configuration file: ",
+    L"The configuration file could not be written:",
+    L"The configuration name you specified is already used.",
+    L"The name you specified ",
+    L"You must specify a valid name to continue.",
+    L"The file extension you specified is not valid.",
+    L"Import ",
+    L"W A R N I N G",
+    L"Complete all steps to ensure that Varnel DNC",
+    L"You chose to restore a previously-saved set of",
+};
+
+bool IsKnown(std::wstring_view text) {
+    return std::any_of(std::begin(kKnownMessages), std::end(kKnownMessages),
+                       [&](std::wstring_view known) { return text.starts_with(known); });
+}
+
+BOOL CALLBACK Collect(HWND window, LPARAM data) {
+    if (IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(data)->push_back(window);
+    return TRUE;
+}
+
+} // namespace
+
+bool Journey::Passed(std::wstring_view heading) const {
+    return std::find(pages.begin(), pages.end(), heading) != pages.end();
+}
+
+bool Journey::Told(std::wstring_view beginning) const {
+    return std::any_of(messages.begin(), messages.end(),
+                       [&](const std::wstring& text) { return text.starts_with(beginning); });
+}
+
+DWORD_PTR Ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    DWORD_PTR result = 0;
+    if (!SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, kAnswerTime_ms, &result) &&
+        IsWindow(window))
+        throw std::runtime_error("no answer to message " + std::to_string(message) + " of " +
+                                 Utf8(ClassOf(window)));
+    return result;
+}
+
+std::wstring ClassOf(HWND window) {
+    wchar_t name[256] = L"";
+    GetClassNameW(window, name, 256);
+    return name;
+}
+
+std::wstring TextOf(HWND window) {
+    std::wstring text(Ask(window, WM_GETTEXTLENGTH) + 1, L'\0');
+    text.resize(Ask(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data())));
+    return text;
+}
+
+std::vector<HWND> ChildrenOf(HWND window) {
+    std::vector<HWND> children;
+    EnumChildWindows(window, Collect, reinterpret_cast<LPARAM>(&children));
+    return children;
+}
+
+std::vector<HWND> WindowsOfProcess(DWORD process) {
+    std::vector<HWND> windows;
+    EnumWindows(Collect, reinterpret_cast<LPARAM>(&windows));
+    std::erase_if(windows, [process](HWND window) {
+        DWORD owner = 0;
+        GetWindowThreadProcessId(window, &owner);
+        return owner != process || ClassOf(window) == L"tooltips_class32";
+    });
+    return windows;
+}
+
+void Walker::Press(HWND button) const {
+    SendNotifyMessageW(button, BM_CLICK, 0, 0);
+    Ask(main_, WM_NULL);
+}
+
+std::wstring Walker::Heading() const { return TextOf(GetDlgItem(main_, kHeadingId)); }
+
+HWND Walker::Button(const wchar_t* caption) const {
+    for (HWND child : ChildrenOf(main_))
+        if (ClassOf(child) == L"Button" && TextOf(child) == caption) return child;
+    return nullptr;
+}
+
+HWND Walker::Next() const {
+    for (const wchar_t* caption : {L"&Next >", L"&Create", L"&Finish", L"&Close"})
+        if (HWND button = Button(caption)) return button;
+    return nullptr;
+}
+
+HWND Walker::Modal() const {
+    for (HWND window : WindowsOfProcess(wizard_.ProcessId()))
+        if (window != main_ && IsWindowEnabled(window) && !ClassOf(window).starts_with(L"VWizardForm"))
+            return window;
+    return nullptr;
+}
+
+std::wstring Walker::AnswerModal(HWND modal) const {
+    HWND label = GetDlgItem(modal, kBoxTextId);
+    const std::wstring text = label ? TextOf(label) : L"";
+    HWND button = nullptr;
+    for (const int id : {IDYES, IDOK})
+        if (HWND found = GetDlgItem(modal, id); found && IsWindowVisible(found) && !button) button = found;
+    for (HWND child : ChildrenOf(modal))
+        if (!button && ClassOf(child) == L"Button") button = child;
+    SendNotifyMessageW(button ? button : modal, button ? BM_CLICK : WM_CLOSE, 0, 0);
+    wizard_.Until([modal] { return !IsWindow(modal) || !IsWindowVisible(modal); }, L"an end of: " + text);
+    return text;
+}
+
+bool Walker::WaitUntilReady() {
+    const DWORD begin = GetTickCount();
+    while (wizard_.IsRunning()) {
+        for (HWND window : WindowsOfProcess(wizard_.ProcessId()))
+            if (ClassOf(window) == L"VWizardForm") main_ = window;
+        if (Modal()) return true;
+        // Cancel is shown when the first page is about to be; a page change is over when it answers.
+        HWND cancel = main_ ? GetDlgItem(main_, IDCANCEL) : nullptr;
+        if (cancel && IsWindowVisible(cancel) && IsWindowEnabled(main_)) {
+            Ask(main_, WM_NULL);
+            if (IsWindowEnabled(main_) && !Heading().empty()) return true;
+        }
+        if (GetTickCount() - begin > kPatience_ms) throw std::runtime_error("the wizard shows nothing");
+        Sleep(1);
+    }
+    return false;
+}
+
+void Walker::LeavePage(Journey& journey) {
+    const std::wstring heading = Heading();
+    visits_ = heading == lastPage_ ? visits_ + 1 : 1;
+    lastPage_ = heading;
+    if (visits_ == 1) journey.pages.push_back(heading);
+    if (heading == L"Configuration Name") {
+        // A second refusal will not be the last one: this page may be closed without a question.
+        if (visits_ > 2) return static_cast<void>(SendNotifyMessageW(main_, WM_CLOSE, 0, 0));
+        for (HWND child : ChildrenOf(main_))
+            if (ClassOf(child) == L"Edit")
+                Ask(child, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
+    }
+    if (onPage) onPage(heading);
+    if (visits_ > kMostVisits) throw std::runtime_error("cannot leave the page " + Utf8(heading));
+    HWND next = Next();
+    if (!next) throw std::runtime_error("no way on from the page " + Utf8(heading));
+    Press(next);
+}
+
+Journey Walker::Walk() {
+    Journey journey;
+    try {
+        while (WaitUntilReady()) {
+            if (HWND modal = Modal()) {
+                const bool box = ClassOf(modal) == L"#32770";
+                const std::wstring text = AnswerModal(modal);
+                if (box) journey.messages.push_back(text);
+                if (box && !IsKnown(text)) journey.trouble = L"an unexpected message: " + text;
+                if (!journey.trouble.empty()) return journey;
+                continue;
+            }
+            if (!stopAt.empty() && Heading() == stopAt) return journey;
+            LeavePage(journey);
+        }
+        const int code = wizard_.WaitForExit();
+        if (code != 0 && !(code == 1 && !journey.messages.empty()))
+            journey.trouble = L"the exit code " + std::to_wstring(code);
+    } catch (const std::exception& error) {
+        const std::string what = error.what();
+        journey.trouble = std::wstring(what.begin(), what.end());
+    }
+    return journey;
+}
