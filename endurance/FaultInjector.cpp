@@ -43,8 +43,7 @@ struct Row {
 };
 
 template <Name kName, class Function> struct Failing;
-template <Name kName, class Result, class... Arguments>
-struct Failing<kName, Result(WINAPI*)(Arguments...)> {
+template <Name kName, class Result, class... Arguments> struct Failing<kName, Result(WINAPI*)(Arguments...)> {
     static inline void* original = nullptr;
     static inline std::uintptr_t result = 0;
     static inline DWORD error = 0;
@@ -54,7 +53,8 @@ struct Failing<kName, Result(WINAPI*)(Arguments...)> {
         error = code;
     }
     static Result WINAPI Call(Arguments... arguments) {
-        if (!FailsNow(kName.text)) return reinterpret_cast<Result(WINAPI*)(Arguments...)>(original)(arguments...);
+        if (!FailsNow(kName.text))
+            return reinterpret_cast<Result(WINAPI*)(Arguments...)>(original)(arguments...);
         SetLastError(error);
         return (Result)result; // an integer or a handle
     }
@@ -62,10 +62,12 @@ struct Failing<kName, Result(WINAPI*)(Arguments...)> {
 
 template <Name kName, class Function> Row Fails(std::uintptr_t result, DWORD error) {
     using Replaced = Failing<kName, Function>;
-    return {kName.text, reinterpret_cast<void*>(&Replaced::Call), &Replaced::original, &Replaced::SetUp, result, error};
+    return {
+        kName.text, reinterpret_cast<void*>(&Replaced::Call), &Replaced::original, &Replaced::SetUp, result,
+        error};
 }
 
-#define FAILS(function, result, error) Fails<#function, decltype(&function)>(result, error)
+#define FAILS(function, result, error) Fails<#function, decltype(&(function))>(result, error)
 
 constexpr std::uintptr_t kNoHandle = static_cast<std::uintptr_t>(-1);
 constexpr std::uintptr_t kNoAttributes = INVALID_FILE_ATTRIBUTES;
@@ -136,7 +138,8 @@ void Replace(const char* name, IMAGE_THUNK_DATA& entry) {
 }
 
 void ReplaceImports() {
-    const auto* headers = At<IMAGE_NT_HEADERS>(static_cast<std::uintptr_t>(At<IMAGE_DOS_HEADER>(0)->e_lfanew));
+    const auto* headers =
+        At<IMAGE_NT_HEADERS>(static_cast<std::uintptr_t>(At<IMAGE_DOS_HEADER>(0)->e_lfanew));
     const auto& imports = headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
     for (auto* library = At<IMAGE_IMPORT_DESCRIPTOR>(imports.VirtualAddress); library->Name != 0; ++library) {
         auto* names = At<IMAGE_THUNK_DATA>(library->OriginalFirstThunk);

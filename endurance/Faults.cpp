@@ -25,7 +25,8 @@ struct Scene {
     std::vector<std::string> calls; // of an undisturbed run
 
     explicit Scene(const wchar_t* mode) : arguments(mode) {
-        if (!CopyFileW(FromEnvironment(L"SOAK_FAULTY").c_str(), (suite.Folder() + L"VWizard.exe").c_str(), FALSE))
+        if (!CopyFileW(FromEnvironment(L"SOAK_FAULTY").c_str(), (suite.Folder() + L"VWizard.exe").c_str(),
+                       FALSE))
             throw std::runtime_error("cannot copy the program with faults");
         suite.AddIcons();
         CreateDirectoryW((suite.Folder() + L"Samples").c_str(), nullptr);
@@ -61,7 +62,8 @@ Journey Run(Scene& scene, const std::wstring& failing) {
 void RunAll(Tally& tally, Scene& scene) {
     SetEnvironmentVariableW(L"VWIZARD_FAIL_LOG", scene.Log().c_str());
     const Journey whole = Run(scene, L"0");
-    tally.Expect(whole.trouble.empty() && whole.Passed(L"Finished"), L"the undisturbed run: " + whole.trouble);
+    tally.Expect(whole.trouble.empty() && whole.Passed(L"Finished"),
+                 L"the undisturbed run: " + whole.trouble);
     std::istringstream log(FileBytes(scene.Log()));
     for (std::string name; std::getline(log, name);)
         scene.calls.push_back(name);
@@ -71,10 +73,11 @@ void RunAll(Tally& tally, Scene& scene) {
         for (const wchar_t* after : {L"", L"+"}) {
             const std::string& name = scene.calls[call - 1];
             const std::wstring which = std::to_wstring(call) + after;
+            std::wstring what = std::wstring(name.begin(), name.end());
+            what.append(L" (").append(which).append(L" ").append(scene.arguments).append(L"): ");
             const std::wstring trouble = Run(scene, which).trouble;
-            tally.Expect(trouble.empty(), std::wstring(scene.arguments) + L" call " + which + L" " +
-                                              std::wstring(name.begin(), name.end()) + L": " + trouble);
-            tally.Expect(scene.suite.Setting(L"Kept") == L"yes", L"call " + which + L": a key was lost");
+            tally.Expect(trouble.empty(), what + trouble);
+            tally.Expect(scene.suite.Setting(L"Kept") == L"yes", what + L"a key was lost");
         }
 }
 

@@ -38,7 +38,8 @@ std::set<std::wstring> Tree(const std::wstring& folder) {
 // What is only in `after`, or has another size there; what has gone carries a "-".
 std::vector<std::wstring> Changes(const std::set<std::wstring>& before, const std::set<std::wstring>& after) {
     std::vector<std::wstring> changes;
-    std::set_difference(after.begin(), after.end(), before.begin(), before.end(), std::back_inserter(changes));
+    std::set_difference(after.begin(), after.end(), before.begin(), before.end(),
+                        std::back_inserter(changes));
     for (const std::wstring& entry : before)
         if (!after.contains(entry)) changes.push_back(L"-" + entry);
     return changes;
@@ -96,9 +97,10 @@ void Try(Tally& tally, const DemoSuite& suite, Walker& walker, const BadText& na
     if (created) {
         const std::wstring path = suite.Settings() + WithoutBlanks(name.text) + L".DCP";
         const bool just = changes.size() == 1 && changes[0] == path + L"|" + std::to_wstring(kFileSize);
-        tally.Expect(just && name.name == As::File,
-                     shown + L" made " +
-                         (changes.empty() ? L"nothing" : std::to_wstring(changes.size()) + L": " + changes[0]));
+        tally.Expect(
+            just && name.name == As::File,
+            shown + L" made " +
+                (changes.empty() ? L"nothing" : std::to_wstring(changes.size()) + L": " + changes[0]));
         SendNotifyMessageW(walker.Button(L"&New"), BM_CLICK, 0, 0);
         tally.Expect(walker.Walk().trouble.empty(), shown + L": no way back to the name page");
     } else {

@@ -114,7 +114,7 @@ HWND Walker::Modal() const {
 
 std::wstring Walker::AnswerModal(HWND modal) const {
     HWND label = GetDlgItem(modal, kBoxTextId);
-    const std::wstring text = label ? TextOf(label) : L"";
+    std::wstring text = label ? TextOf(label) : L"";
     HWND button = nullptr;
     for (const int id : {IDYES, IDOK})
         if (HWND found = GetDlgItem(modal, id); found && IsWindowVisible(found) && !button) button = found;
@@ -152,8 +152,7 @@ void Walker::LeavePage(Journey& journey) {
         // A second refusal will not be the last one: this page may be closed without a question.
         if (visits_ > 2) return static_cast<void>(SendNotifyMessageW(main_, WM_CLOSE, 0, 0));
         for (HWND child : ChildrenOf(main_))
-            if (ClassOf(child) == L"Edit")
-                Ask(child, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
+            if (ClassOf(child) == L"Edit") Ask(child, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
     }
     if (onPage) onPage(heading);
     if (visits_ > kMostVisits) throw std::runtime_error("cannot leave the page " + Utf8(heading));
