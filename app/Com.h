@@ -2,4 +2,12 @@
 
 // OLE for the calling thread, which some of the shell's services need. Begun at the first call and kept
 // until the program ends, so that a run that asks the shell for nothing does not pay for it.
+
+#include "win/Handles.h"
+
 void StartOle();
+
+template <class Interface> void ReleaseInterface(Interface* object) { object->Release(); }
+
+// Holds one reference of a COM object.
+template <class Interface> using UniqueInterface = win::Unique<Interface*, ReleaseInterface<Interface>>;

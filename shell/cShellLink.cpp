@@ -1,0 +1,100 @@
+#include "shell/cShellLink.h"
+
+#include "app/Com.h"
+#include "app/Names.h"
+#include "app/Text.h"
+
+#include <objbase.h>
+#include <shlobj.h>
+
+namespace {
+
+constexpr int kBufferLength = 255;
+
+// Brings the link's stored data up to date. A target that is missing is neither searched for nor asked about.
+constexpr DWORD kResolve = DWORD{SLR_UPDATE} | SLR_NO_UI | SLR_NOSEARCH;
+
+// A link object with its two faces; null in `link` when the shell has none to give.
+struct LinkObject {
+    UniqueInterface<IShellLinkA> link;
+    UniqueInterface<IPersistFile> file;
+
+    LinkObject() {
+        StartOle();
+        if (SUCCEEDED(CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IShellLinkA,
+                                       reinterpret_cast<void**>(link.Out()))))
+            link.Get()->QueryInterface(IID_IPersistFile, reinterpret_cast<void**>(file.Out()));
+    }
+    explicit operator bool() const { return static_cast<bool>(file); }
+};
+
+using TextGetter = HRESULT (STDMETHODCALLTYPE IShellLinkA::*)(LPSTR, int);
+
+std::optional<std::wstring> TextOf(IShellLinkA& link, TextGetter getter) {
+    char buffer[kBufferLength] = "";
+    if (FAILED((link.*getter)(buffer, kBufferLength))) return std::nullopt;
+    return FromAnsi(buffer);
+}
+
+} // namespace
+
+std::optional<std::wstring> cShellLink::GetSystemFolderPath(HWND ownerWindow, std::int32_t folderId) const {
+    PIDLIST_ABSOLUTE items = nullptr;
+    if (SHGetSpecialFolderLocation(ownerWindow, folderId, &items) != S_OK) return std::nullopt;
+    wchar_t buffer[MAX_PATH] = L""; // what the shell wants at least
+    const bool found = SHGetPathFromIDListW(items, buffer) != FALSE;
+    CoTaskMemFree(items);
+    std::wstring path = TrimBlanks(buffer);
+    if (!found || path.empty()) return std::nullopt;
+    if (path.back() == L'\\') path.pop_back(); // some versions leave one
+    return path;
+}
+
+bool cShellLink::CreateShellLink(const std::wstring& linkFile, const std::wstring& target,
+                                 const std::wstring& workingFolder, const std::wstring& arguments,
+                                 const std::wstring& iconFile, std::int32_t iconIndex,
+                                 std::int32_t showCommand) const {
+    if (linkFile.empty() || target.empty()) return false;
+    const LinkObject object;
+    if (!object) return false;
+    IShellLinkA& link = *object.link.Get();
+    const auto apply = [](const std::wstring& text, auto set) {
+        return text.empty() || SUCCEEDED(set(ToAnsi(text).c_str()));
+    };
+    return apply(target, [&](const char* text) { return link.SetPath(text); }) &&
+           apply(workingFolder, [&](const char* text) { return link.SetWorkingDirectory(text); }) &&
+           apply(arguments, [&](const char* text) { return link.SetArguments(text); }) &&
+           apply(iconFile, [&](const char* text) { return link.SetIconLocation(text, iconIndex); }) &&
+           SUCCEEDED(link.SetDescription("")) && SUCCEEDED(link.SetShowCmd(showCommand)) &&
+           SUCCEEDED(link.Resolve(nullptr, kResolve)) &&
+           SUCCEEDED(object.file.Get()->Save(linkFile.c_str(), FALSE));
+}
+
+std::optional<ShellLinkInfo> cShellLink::GetShellLinkInfo(const std::wstring& linkFile) const {
+    if (linkFile.empty()) return std::nullopt;
+    const LinkObject object;
+    if (!object || FAILED(object.file.Get()->Load(linkFile.c_str(), STGM_READ))) return std::nullopt;
+    IShellLinkA& link = *object.link.Get();
+    char buffer[kBufferLength] = "";
+    ShellLinkInfo info;
+    if (FAILED(link.GetPath(buffer, kBufferLength, nullptr, 0))) return std::nullopt;
+    info.target = FromAnsi(buffer);
+    const auto workingFolder = TextOf(link, &IShellLinkA::GetWorkingDirectory);
+    const auto arguments = TextOf(link, &IShellLinkA::GetArguments);
+    const auto description = TextOf(link, &IShellLinkA::GetDescription);
+    if (!workingFolder || !arguments || !description) return std::nullopt;
+    info.workingFolder = *workingFolder;
+    info.arguments = *arguments;
+    info.description = *description;
+    char iconFile[kBufferLength] = "";
+    int iconIndex = 0;
+    int showCommand = 0;
+    if (FAILED(link.GetHotkey(&info.hotKey)) ||
+        FAILED(link.GetIconLocation(iconFile, kBufferLength, &iconIndex)) ||
+        FAILED(link.GetShowCmd(&showCommand)))
+        return std::nullopt;
+    info.iconFile = FromAnsi(iconFile);
+    info.iconIndex = iconIndex;
+    info.showCommand = showCommand;
+    return info;
+}
