@@ -3,6 +3,7 @@
 #include "app/Launch.h"
 #include "ftw/Companions.h"
 #include "ftw/FtwPages.h"
+#include "shell/modShellLink.h"
 #include "wizard/frmWizard.h"
 
 void PageFtwCaution(frmWizard& form) {
@@ -49,6 +50,7 @@ void PageFtwFinal(frmWizard& form) {
                    L"<u>Application notes</u>\r\n"
                    L"<u>Cable and wiring diagrams</u>\r\n"
                    L"<u>Technical support</u>");
+    ShowAppIcons(form, kAllAppIcons);
 }
 
 void LeaveFtwFinal(frmWizard& form, Move move) {

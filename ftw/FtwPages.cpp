@@ -2,6 +2,8 @@
 
 #include "app/Names.h"
 #include "app/Settings.h"
+#include "shell/ShortcutsPage.h"
+#include "shell/modShellLink.h"
 #include "wizard/frmWizard.h"
 
 FtwSession ftwSession;
@@ -13,7 +15,7 @@ void Load(frmWizard&) {
     ftwSession.maxProgress = NumericValue(TrimBlanks(ReadIniString(L"General", L"FTSW_MaxProgress", L"")));
 }
 
-void BeforeShow(frmWizard&) {}
+void BeforeShow(frmWizard& form) { ShowAppIcons(form, kNoAppIcon); }
 
 bool TakesOverNext(frmWizard& form) {
     if (form.PageNo != kFtwChoosePage) return false;
@@ -29,5 +31,8 @@ constexpr PageBook kBook{kFtwPages, true, Load, BeforeShow, TakesOverNext, FtwHy
 
 const PageBook& FtwBook() { return kBook; }
 
-void PageFtwShortcuts(frmWizard& form) { form.WriteHeading(L"Specify Application Shortcuts"); }
-void LeaveFtwShortcuts(frmWizard&, Move) {}
+void PageFtwShortcuts(frmWizard& form) { BuildShortcutsPage(form, ftwSession.shortcutChoice); }
+
+void LeaveFtwShortcuts(frmWizard& form, Move move) {
+    ftwSession.shortcutChoice = LeaveShortcutsPage(form, move);
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+// The page on which the user chooses where the File Manager gets a shortcut. The choice is the caller's:
+// bit 0 desktop, bit 1 Start menu, bit 2 Quick Launch bar.
+
+#include "wizard/Page.h"
+
+#include <cstdint>
+
+void BuildShortcutsPage(frmWizard& form, std::int16_t choice);
+
+// The choice as the page's boxes show it; on the way forward the shortcuts are made and deleted at once.
+std::int16_t LeaveShortcutsPage(frmWizard& form, Move move);

@@ -1,0 +1,81 @@
+#include "shell/modShellLink.h"
+
+#include "app/Files.h"
+#include "app/Names.h"
+#include "app/Settings.h"
+#include "app/modLocations.h"
+#include "shell/cShellLink.h"
+#include "wizard/frmWizard.h"
+
+#include <shellapi.h>
+#include <shlobj.h>
+
+namespace {
+
+struct Place {
+    std::int16_t bit;
+    std::int32_t shellFolder;
+    const wchar_t* below; // the shell folder
+};
+
+struct Shortcut {
+    const wchar_t* file;
+    const wchar_t* target; // in the program's folder
+};
+
+// clang-format off
+constexpr Place kPlaces[] = {
+    {1, kDesktopFolder,         L"\\"},
+    {2, kStartMenuFolder,       L"\\"},
+    {4, kApplicationDataFolder, L"\\Microsoft\\Internet Explorer\\Quick Launch\\"},
+};
+
+constexpr Shortcut kFileManager  = {L"Varnel DNC File Manager.lnk",  L"VFileMgr.EXE"};
+constexpr Shortcut kRemoteServer = {L"Varnel DNC Remote Server.lnk", L"VRemote.EXE"};
+// clang-format on
+
+// Silent, without confirmation, and without a word about a link that another program holds open.
+constexpr std::int16_t kQuietDelete = FOF_SILENT | FOF_NOCONFIRMATION | FOF_NOERRORUI;
+
+cShellLink& Links() {
+    static cShellLink link;
+    return link;
+}
+
+void Update(HWND owner, const std::wstring& folder, bool create, const Shortcut& shortcut) {
+    const std::wstring link = folder + shortcut.file;
+    if (create) {
+        if (!FolderExists(folder)) SHCreateDirectoryExW(nullptr, folder.c_str(), nullptr);
+        Links().CreateShellLink(link, locations.ProgramFolder + shortcut.target, locations.ProgramFolder, L"",
+                                L"", 0, SW_SHOW);
+    } else if (FileExists(link)) {
+        DeleteAnyFile(link + std::wstring(2, L'\0'), kQuietDelete, owner);
+    }
+}
+
+} // namespace
+
+void ShowAppIcons(frmWizard& form, std::int16_t mode) {
+    for (auto& icon : form.picAppIcon) {
+        icon.Visible(mode >= kAllAppIcons);
+        if (mode == kFirstAppIcon) break;
+    }
+}
+
+void UpdateShortcuts(HWND owner, std::int16_t choice) {
+    const bool remoteServer = RemoteServerInstalled();
+    for (const Place& place : kPlaces)
+        if (const auto folder = Links().GetSystemFolderPath(owner, place.shellFolder))
+            UpdateShortcutsIn(owner, *folder + place.below, (choice & place.bit) != 0, remoteServer);
+}
+
+void UpdateShortcutsIn(HWND owner, const std::wstring& folder, bool create, bool remoteServer) {
+    Update(owner, folder, create, kFileManager);
+    if (remoteServer) Update(owner, folder, create, kRemoteServer);
+}
+
+bool RemoteServerInstalled() {
+    std::wstring options = TrimBlanks(ReadIniString(L"Install", L"Options", L""));
+    if (options.empty()) options = ReadIniString(L"Options", L"Install", L"");
+    return (NumericValue(options) & 1) != 0;
+}
