@@ -1,6 +1,8 @@
 #include "shell/frmIcons.h"
 
+#include "tests/support/DemoSuite.h"
 #include "tests/support/FormDriver.h"
+#include "tests/support/Scratch.h"
 
 #include <gtest/gtest.h>
 
@@ -8,39 +10,6 @@
 #include <memory>
 
 namespace {
-
-// A folder of its own, empty at first and gone at the end.
-class ScratchFolder {
-  public:
-    ScratchFolder() {
-        wchar_t temp[MAX_PATH];
-        GetTempPathW(MAX_PATH, temp);
-        path_ = std::wstring(temp) + L"icons" + std::to_wstring(GetCurrentProcessId()) + L"-" +
-                std::to_wstring(++count_) + L"\\";
-        CreateDirectoryW(path_.c_str(), nullptr);
-    }
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-    ~ScratchFolder() {
-        for (const std::wstring& file : files_)
-            DeleteFileW(file.c_str());
-        RemoveDirectoryW(path_.c_str());
-    }
-    const std::wstring& Path() const { return path_; }
-
-    void Write(const std::wstring& name, const std::string& bytes) {
-        const win::UniqueKernelHandle file(CreateFileW((path_ + name).c_str(), GENERIC_WRITE, 0, nullptr,
-                                                       CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
-        DWORD written = 0;
-        WriteFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
-        files_.push_back(path_ + name);
-    }
-
-  private:
-    static inline int count_ = 0;
-    std::wstring path_;
-    std::vector<std::wstring> files_;
-};
 
 // An icon file: 16 by 16 pixels of one colour (blue, green, red), none transparent.
 std::string IconFile(const std::string& colour = "\x20\x40\x60") {
@@ -120,8 +89,8 @@ const Row kRows[] = {
 std::unique_ptr<ScratchFolder> FolderWith(int icons) {
     auto folder = std::make_unique<ScratchFolder>();
     for (int i = icons - 1; i >= 1; --i) // not in the order wanted
-        folder->Write((i < 10 ? L"i0" : L"i") + std::to_wstring(i) + L".ico", IconFile());
-    folder->Write(L"VDNC32.ICO", IconFile());
+        WriteFileBytes(folder->Path() + (i < 10 ? L"i0" : L"i") + std::to_wstring(i) + L".ico", IconFile());
+    WriteFileBytes(folder->Path() + L"VDNC32.ICO", IconFile());
     return folder;
 }
 
@@ -148,25 +117,25 @@ TEST(frmIcons, IsDrivenByMouseAndKeys) {
 
 // Damaged files are no icons, and an icon file of another extension is none either.
 TEST(frmIcons, IsNotShownWithoutIcons) {
-    ScratchFolder folder;
+    const ScratchFolder folder;
     frmIcons form;
     for (int round = 0; round < 2; ++round) {
         EXPECT_FALSE(WhileOpen(
             kClass, [&] { form.OpenForm(folder.Path(), nullptr); }, [](HWND) {}));
         EXPECT_EQ(form.Result(), L"");
-        folder.Write(L"empty.ico", "");
-        folder.Write(L"text.ico", "This is no picture at all, but it has some length.");
-        folder.Write(L"cut.ico", IconFile().substr(0, 40));
-        folder.Write(L"longer.icox", IconFile());
+        WriteFileBytes(folder.Path() + L"empty.ico", "");
+        WriteFileBytes(folder.Path() + L"text.ico", "This is no picture at all, but it has some length.");
+        WriteFileBytes(folder.Path() + L"cut.ico", IconFile().substr(0, 40));
+        WriteFileBytes(folder.Path() + L"longer.icox", IconFile());
     }
 }
 
 TEST(frmIcons, PassesOverDamagedFilesAndTakesAnyName) {
-    ScratchFolder folder;
-    folder.Write(L"a.ico", "no picture");
-    folder.Write(L"R&D 1.x.ico", IconFile());
-    folder.Write(L"\x00C4rmel.ICO", IconFile());
-    folder.Write(L"zz.ico", "");
+    const ScratchFolder folder;
+    WriteFileBytes(folder.Path() + L"a.ico", "no picture");
+    WriteFileBytes(folder.Path() + L"R&D 1.x.ico", IconFile());
+    WriteFileBytes(folder.Path() + L"\x00C4rmel.ICO", IconFile());
+    WriteFileBytes(folder.Path() + L"zz.ico", "");
     frmIcons form;
     std::wstring seen;
     WhileOpen(
