@@ -337,16 +337,25 @@ TEST(NdwWalk, ASecondCopyShowsTheFirst) {
     const DemoSuite suite;
     const WizardDriver first(suite, L"/NDW");
     const WizardDriver otherMode(suite);
-    ShowWindow(first.Window(), SW_MINIMIZE);
-    first.Until([&] { return IsIconic(first.Window()) != FALSE; }, L"the window to be minimised");
-    suite.SetSetting(L"RxNameMode", L"untouched");
+    for (const bool minimised : {false, true}) {
+        SCOPED_TRACE(minimised ? "minimised" : "behind another window");
+        if (minimised)
+            ShowWindow(first.Window(), SW_MINIMIZE);
+        else
+            SetForegroundWindow(otherMode.Window());
+        first.Until(
+            [&] {
+                return minimised ? IsIconic(first.Window()) : GetForegroundWindow() == otherMode.Window();
+            },
+            L"the first copy out of sight");
+        suite.SetSetting(L"RxNameMode", L"untouched");
 
-    const WizardDriver second(suite, L"/NDW /SHIFT", WizardDriver::Wait::No);
-    EXPECT_EQ(second.WaitForExit(), 0);
-    first.Until([&] { return IsIconic(first.Window()) == FALSE; }, L"the first copy to be restored");
-    first.Until([&] { return GetForegroundWindow() == first.Window(); }, L"the first copy in front");
-    EXPECT_TRUE(first.IsRunning());
-    EXPECT_EQ(suite.Setting(L"RxNameMode"), L"untouched");
+        const WizardDriver second(suite, L"/NDW /SHIFT", WizardDriver::Wait::No);
+        EXPECT_EQ(second.WaitForExit(), 0);
+        first.Until([&] { return IsIconic(first.Window()) == FALSE; }, L"the first copy to be restored");
+        first.Until([&] { return GetForegroundWindow() == first.Window(); }, L"the first copy in front");
+        EXPECT_EQ(suite.Setting(L"RxNameMode"), L"untouched");
+    }
 }
 
 TEST(NdwWalk, StartsBesideItselfAtTheScreensCorner) {

@@ -10,10 +10,18 @@ constexpr DWORD kPatience = 20000; // milliseconds for one step
 constexpr UINT kAnswerTime = 10000;
 constexpr int kBoxText = 65535; // the id of a message box's text
 
+// false when the window has gone; a window that hangs is a failure.
+bool TryToAsk(HWND window, UINT message, WPARAM wParam, LPARAM lParam, DWORD_PTR& result) {
+    if (SendMessageTimeoutW(window, message, wParam, lParam, SMTO_ABORTIFHUNG, kAnswerTime, &result))
+        return true;
+    if (!IsWindow(window)) return false;
+    throw std::runtime_error("a control did not answer message " + std::to_string(message));
+}
+
 DWORD_PTR Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     DWORD_PTR result = 0;
-    if (!SendMessageTimeoutW(window, message, wParam, lParam, SMTO_ABORTIFHUNG, kAnswerTime, &result))
-        throw std::runtime_error("a control did not answer message " + std::to_string(message));
+    if (!TryToAsk(window, message, wParam, lParam, result))
+        throw std::runtime_error("a control has gone before message " + std::to_string(message));
     return result;
 }
 
@@ -23,9 +31,13 @@ std::wstring ClassOf(HWND window) {
     return name;
 }
 
+// "" for a window that has gone meanwhile.
 std::wstring TextOf(HWND window) {
-    std::wstring text(Ask(window, WM_GETTEXTLENGTH) + 1, L'\0');
-    text.resize(Ask(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data())));
+    DWORD_PTR length = 0, copied = 0;
+    if (!TryToAsk(window, WM_GETTEXTLENGTH, 0, 0, length)) return {};
+    std::wstring text(length + 1, L'\0');
+    if (!TryToAsk(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()), copied)) return {};
+    text.resize(copied);
     return text;
 }
 
