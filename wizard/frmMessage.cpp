@@ -1,0 +1,137 @@
+#include "wizard/frmMessage.h"
+
+#include "app/modLocations.h"
+#include "win/Fonts.h"
+#include "win/Screen.h"
+#include "wizard/Markup.h"
+
+#include <optional>
+
+namespace {
+
+using namespace win::literals;
+
+constexpr wchar_t kApplicationTitle[] = L"VWizard";
+constexpr win::Twips kButtonHeight = 375_tw;
+constexpr win::Twips kTextInset = 120_tw; // half of what the text is smaller than its panel
+
+enum MessageIds { kFirstButtonId = 100, kTextId = 110, kPanelId };
+
+struct ButtonRow {
+    const wchar_t* caption;
+    std::int16_t result;
+};
+
+struct ButtonSet {
+    std::size_t count;
+    ButtonRow rows[kMessageButtons];
+};
+
+// clang-format off
+constexpr std::array<ButtonSet, 6> kButtonSets = {{
+    {1, {{L"&OK",    IDOK},    {L"",        0},        {L"",        0}       }},
+    {2, {{L"&OK",    IDOK},    {L"&Cancel", IDCANCEL}, {L"",        0}       }},
+    {3, {{L"&Abort", IDABORT}, {L"&Retry",  IDRETRY},  {L"&Ignore", IDIGNORE}}},
+    {3, {{L"&Yes",   IDYES},   {L"&No",     IDNO},     {L"&Cancel", IDCANCEL}}},
+    {2, {{L"&Yes",   IDYES},   {L"&No",     IDNO},     {L"",        0}       }},
+    {2, {{L"&Retry", IDRETRY}, {L"&Cancel", IDCANCEL}, {L"",        0}       }},
+}};
+// clang-format on
+
+const ButtonSet& SetOf(std::int16_t buttons) { return kButtonSets.at(static_cast<std::size_t>(buttons)); }
+
+PixelArea AreaOf(const RECT& rectangle) {
+    return {static_cast<int>(rectangle.left), static_cast<int>(rectangle.top),
+            static_cast<int>(rectangle.right), static_cast<int>(rectangle.bottom)};
+}
+
+std::optional<PixelArea> AreaOf(HWND window) {
+    RECT rectangle{};
+    if (!window || !GetWindowRect(window, &rectangle)) return std::nullopt;
+    return AreaOf(rectangle);
+}
+
+} // namespace
+
+frmMessage::frmMessage() {
+    win::LoadRichText();
+    Create({L"VarnelMessage", L"", WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN,
+            WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT, nullptr},
+           win::FontFor(win::FontUse::Body), 0, 0);
+    Background(COLOR_BTNFACE);
+    for (std::size_t i = 0; i < cmdButton.size(); ++i) {
+        cmdButton[i].Bind(*this, kFirstButtonId + static_cast<int>(i), L"Button",
+                          BS_PUSHBUTTON | BS_NOTIFY | WS_TABSTOP | (i == 0 ? WS_GROUP : 0));
+        cmdButton[i].onClick = [this, i] { cmdButton_Click(i); };
+    }
+    txtMessage.Bind(*this, kTextId, win::RichText::kClassName, win::RichText::kStyle | WS_GROUP);
+    picMessage.Bind(*this, kPanelId, L"Static", SS_WHITERECT | WS_CLIPSIBLINGS);
+}
+
+std::int16_t frmMessage::Show(const std::wstring& message, std::int16_t buttons, std::int16_t size,
+                              const std::wstring& title, HWND owner) {
+    const MessageScreen screen{AreaOf(win::WorkArea()), win::Dpi(), GetSystemMetrics(SM_CYCAPTION)};
+    PlaceControls(LayOutMessage(size, SetOf(buttons).count, screen, AreaOf(owner)));
+    SetButtons(buttons);
+    txtMessage.SetText(message);
+    FormatText(txtMessage);
+    txtMessage.ScrollToTop();
+    SetWindowTextW(Hwnd(), title.empty() ? kApplicationTitle : (locations.ExeName + L" - " + title).c_str());
+    cmdButton[0].Focus();
+    // The program waits, whether the caller names a window or not.
+    ShowModal(owner ? owner : GetActiveWindow() == Hwnd() ? nullptr : GetActiveWindow());
+    return result_;
+}
+
+void frmMessage::PlaceControls(const MessageLayout& layout) {
+    SetWindowPos(Hwnd(), nullptr, win::Px(layout.left), win::Px(layout.top), win::Px(layout.width),
+                 win::Px(layout.height), SWP_NOZORDER | SWP_NOACTIVATE);
+    for (std::size_t i = 0; i < cmdButton.size(); ++i)
+        cmdButton[i].Place(layout.buttonLeft[i], layout.buttonTop, kMessageButtonWidth, kButtonHeight);
+    txtMessage.Place(kTextInset, kTextInset, layout.textWidth, layout.textHeight);
+    picMessage.Place(0_tw, 0_tw, layout.frameWidth, layout.frameHeight);
+    panelHeight_ = layout.frameHeight;
+}
+
+void frmMessage::SetButtons(std::int16_t buttons) {
+    const ButtonSet& set = SetOf(buttons);
+    for (std::size_t i = 0; i < set.count; ++i) {
+        cmdButton[i].Text(set.rows[i].caption);
+        cmdButton[i].Visible(true);
+        results_[i] = set.rows[i].result;
+    }
+    txtMessage.Visible(true);
+    picMessage.Visible(true);
+    DefaultButton(cmdButton[0]);
+}
+
+void frmMessage::cmdButton_Click(std::size_t index) {
+    result_ = results_.at(index);
+    Hide();
+}
+
+void frmMessage::Form_QueryUnload() {
+    result_ = 0;
+    Hide();
+}
+
+LRESULT frmMessage::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_CLOSE) {
+        Form_QueryUnload();
+        return 0;
+    }
+    const LRESULT result = Form::OnMessage(message, wParam, lParam);
+    if (message == WM_ERASEBKGND) { // the panel goes through to both edges of the window
+        RECT panel{};
+        GetClientRect(Hwnd(), &panel);
+        panel.bottom = win::Px(panelHeight_);
+        FillRect(reinterpret_cast<HDC>(wParam), &panel, GetSysColorBrush(COLOR_WINDOW));
+    }
+    return result;
+}
+
+std::int16_t ShowMessage(const std::wstring& message, std::int16_t buttons, std::int16_t size,
+                         const std::wstring& title, HWND owner) {
+    frmMessage form;
+    return form.Show(message, buttons, size, title, owner);
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+// A modal message whose text carries mark-up (wizard/Markup.h, the message's tags), for what the system's
+// own message box cannot show.
+
+#include "win/Control.h"
+#include "win/Form.h"
+#include "win/RichText.h"
+#include "wizard/MessageLayout.h"
+
+#include <windows.h>
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+class frmMessage : public win::Form {
+  public:
+    frmMessage();
+
+    // See ShowMessage below.
+    std::int16_t Show(const std::wstring& message, std::int16_t buttons, std::int16_t size,
+                      const std::wstring& title, HWND owner);
+
+    // Controls.
+    win::Label picMessage; // the panel around the text
+    win::RichText txtMessage;
+    std::array<win::Button, kMessageButtons> cmdButton;
+
+    // Throws std::out_of_range for an index beyond 3.
+    void cmdButton_Click(std::size_t index);
+    void Form_QueryUnload();
+
+  protected:
+    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void OnEscape() override { Form_QueryUnload(); }
+
+  private:
+    void PlaceControls(const MessageLayout& layout);
+    void SetButtons(std::int16_t buttons);
+
+    std::array<std::int16_t, 4> results_{}; // of the buttons
+    std::int16_t result_ = 0;
+    win::Twips panelHeight_{};
+};
+
+// Shows the message and waits for a button. `buttons` is 0 to 5, the system's button sets (MB_OK …
+// MB_RETRYCANCEL); `size` is 0 to 3, small to large; `title` "" for the program's own; `owner`, which may be
+// null, is what the window is centred on and holds back meanwhile. The result is the system's (IDOK … IDNO),
+// or 0 when the window was closed without a button. Enter presses the button with the focus or else the
+// first, Esc closes.
+std::int16_t ShowMessage(const std::wstring& message, std::int16_t buttons, std::int16_t size,
+                         const std::wstring& title, HWND owner);
