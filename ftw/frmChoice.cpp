@@ -1,0 +1,95 @@
+#include "ftw/frmChoice.h"
+
+#include "win/Fonts.h"
+#include "win/Screen.h"
+
+#include <algorithm>
+
+std::int16_t setupChoice = 0;
+
+namespace {
+
+using namespace win::literals;
+using win::Twips;
+
+constexpr Twips kMargin = 240_tw;
+constexpr Twips kWidth = 5700_tw; // of text and options
+constexpr Twips kLine = 210_tw;
+constexpr Twips kOption = kLine * 2 + 30_tw; // two lines
+constexpr Twips kButtonWidth = 1095_tw;
+constexpr Twips kButtonHeight = 375_tw;
+constexpr Twips kOptionTop = kMargin + kLine * 3 + 60_tw;
+constexpr Twips kButtonTop = kOptionTop + kOption * 3 + 120_tw;
+
+constexpr DWORD kStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
+constexpr DWORD kExtendedStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
+
+constexpr wchar_t kInstructions[] =
+    L"If you are installing Varnel DNC for the first time, choose \"New Installation\" and "
+    L"complete the First-Time Setup Wizard.";
+
+constexpr const wchar_t* kOptions[] = {
+    L"New Installation. Continue First-Time Setup Wizard.",
+    L"Move/Recover Installation. Load a set of previously-saved Varnel DNC configuration files.",
+    L"Exit now.",
+};
+
+} // namespace
+
+frmChoice::frmChoice() {
+    Create({L"VarnelChoice", L"Varnel DNC Setup Wizard", kStyle, kExtendedStyle, nullptr},
+           win::FontFor(win::FontUse::Body), 0, 0);
+    Background(COLOR_BTNFACE);
+    lblInstructions.Bind(*this, 100, L"Static", SS_LEFT | SS_NOPREFIX);
+    for (std::size_t i = 0; i < optChoice.size(); ++i)
+        optChoice[i].Bind(*this, 101 + static_cast<int>(i), L"Button",
+                          BS_AUTORADIOBUTTON | BS_MULTILINE | BS_TOP | (i == 0 ? WS_GROUP | WS_TABSTOP : 0));
+    cmdOK.Bind(*this, IDOK, L"Button", BS_PUSHBUTTON | BS_NOTIFY | WS_GROUP | WS_TABSTOP);
+    cmdOK.onClick = [this] { cmdOK_Click(); };
+    PlaceControls();
+}
+
+void frmChoice::PlaceControls() {
+    lblInstructions.Place(kMargin, kMargin, kWidth, kLine * 3);
+    lblInstructions.Text(kInstructions);
+    lblInstructions.Visible(true);
+    for (std::size_t i = 0; i < optChoice.size(); ++i) {
+        optChoice[i].Place(kMargin, kOptionTop + kOption * static_cast<int>(i), kWidth, kOption);
+        optChoice[i].Text(kOptions[i]);
+        optChoice[i].Visible(true);
+    }
+    cmdOK.Place(kMargin + kWidth - kButtonWidth, kButtonTop, kButtonWidth, kButtonHeight);
+    cmdOK.Text(L"OK");
+    cmdOK.Visible(true);
+    DefaultButton(cmdOK);
+    RECT window{0, 0, win::Px(kWidth + kMargin * 2), win::Px(kButtonTop + kButtonHeight + kMargin)};
+    AdjustWindowRectEx(&window, kStyle, FALSE, kExtendedStyle);
+    const LONG width = window.right - window.left;
+    const LONG height = window.bottom - window.top;
+    const RECT area = win::WorkArea();
+    SetWindowPos(Hwnd(), nullptr, (area.left + area.right - width) / 2, (area.top + area.bottom - height) / 2,
+                 width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void frmChoice::Form_Load() {
+    win::Button* selected = &cmdOK; // an option that gets the focus becomes the selected one
+    for (std::size_t i = 0; i < optChoice.size(); ++i) {
+        const bool chosen = setupChoice == static_cast<std::int16_t>(i);
+        optChoice[i].Checked(chosen);
+        if (chosen) selected = &optChoice[i];
+    }
+    selected->Focus();
+}
+
+void frmChoice::Form_Unload() {
+    const auto selected = std::find_if(optChoice.begin(), optChoice.end(),
+                                       [](win::Button& option) { return option.Checked(); });
+    if (selected != optChoice.end()) setupChoice = static_cast<std::int16_t>(selected - optChoice.begin());
+}
+
+void ShowChoice(HWND owner) {
+    frmChoice form;
+    form.Form_Load();
+    form.ShowModal(owner);
+    form.Form_Unload();
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+// The choice of the setup mode in a small window of its own.
+
+#include "win/Control.h"
+#include "win/Form.h"
+
+#include <windows.h>
+
+#include <array>
+#include <cstdint>
+
+// What was chosen last, and what the dialog begins with: 0 new installation, 1 move or recover an
+// installation, 2 exit. Any other value selects nothing.
+extern std::int16_t setupChoice;
+
+class frmChoice : public win::Form {
+  public:
+    frmChoice();
+
+    // Controls.
+    win::Label lblInstructions;
+    std::array<win::Button, 3> optChoice;
+    win::Button cmdOK;
+
+    void Form_Load();   // selects the option of `setupChoice`
+    void Form_Unload(); // stores the selected option, if any, however the window was closed
+    void cmdOK_Click() { Hide(); }
+
+  protected:
+    void OnEscape() override { Hide(); }
+
+  private:
+    void PlaceControls();
+};
+
+// Runs the dialog in front of `owner`, which may be null.
+void ShowChoice(HWND owner);
