@@ -1,0 +1,46 @@
+// Shows one of the product's small windows by itself and prints what the user answered.
+//   dialogs message BUTTONS SIZE TITLE TEXT   the text with its mark-up; "|" for a line end
+//   dialogs choice PRESET
+//   dialogs icons FOLDER
+#include "app/modLocations.h"
+#include "ftw/frmChoice.h"
+#include "shell/frmIcons.h"
+#include "wizard/frmMessage.h"
+
+#include <cstdio>
+#include <cwchar>
+#include <string>
+
+namespace {
+
+std::int16_t Number(const wchar_t* text) { return static_cast<std::int16_t>(std::wcstol(text, nullptr, 10)); }
+
+std::wstring WithLineEnds(const std::wstring& text) {
+    std::wstring result;
+    for (const wchar_t c : text)
+        result += c == L'|' ? std::wstring(L"\r\n") : std::wstring(1, c);
+    return result;
+}
+
+} // namespace
+
+int wmain(int count, wchar_t** words) {
+    const std::wstring kind = count > 2 ? words[1] : L"";
+    InitLocations();
+    if (kind == L"message" && count == 6) {
+        const int result =
+            ShowMessage(WithLineEnds(words[5]), Number(words[2]), Number(words[3]), words[4], nullptr);
+        std::printf("%d\n", result);
+    } else if (kind == L"choice") {
+        setupChoice = Number(words[2]);
+        ShowChoice(nullptr);
+        std::printf("%d\n", setupChoice);
+    } else if (kind == L"icons") {
+        frmIcons form;
+        form.OpenForm(words[2], nullptr);
+        std::printf("%ls\n", form.Result().c_str());
+    } else {
+        return 2;
+    }
+    return 0;
+}
