@@ -128,6 +128,7 @@ void frmWizard::BindPictures() {
     for (std::size_t i = 0; i < picAppIcon.size(); ++i) {
         picAppIcon[i].Bind(*this, kAppIconId + static_cast<int>(i), L"Static", SS_OWNERDRAW | SS_NOTIFY);
         picAppIcon[i].Name(kAppNames[i]);
+        picAppIcon[i].ToolTip(kAppNames[i]);
         picAppIcon[i].Icon(IDI_APP_ICON + static_cast<int>(i));
     }
 }
@@ -151,6 +152,7 @@ void frmWizard::BindButtons() {
                           layout::kButtonHeight);
         row.button->Text(row.caption);
     }
+    cmdSkip.ToolTip(L"Go on without this step");
     DefaultButton(cmdNext);
 }
 

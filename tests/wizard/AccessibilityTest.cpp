@@ -41,6 +41,34 @@ bool IsLabelledList(HWND control) {
     return ClassOf(control) == L"ListBox" && ClassOf(label) == L"Static" && !win::WindowText(label).empty();
 }
 
+// Counts the announcements of one window while it lives.
+class Announcements {
+  public:
+    explicit Announcements(HWND window) {
+        window_ = window;
+        count_ = 0;
+        hook_ = SetWinEventHook(EVENT_SYSTEM_ALERT, EVENT_SYSTEM_ALERT, nullptr, OnEvent,
+                                GetCurrentProcessId(), 0, WINEVENT_OUTOFCONTEXT);
+    }
+    Announcements(const Announcements&) = delete;
+    Announcements& operator=(const Announcements&) = delete;
+    ~Announcements() { UnhookWinEvent(hook_); }
+
+    int Count() const {
+        win::PumpPendingMessages();
+        return count_;
+    }
+
+  private:
+    static void CALLBACK OnEvent(HWINEVENTHOOK, DWORD, HWND window, LONG, LONG, DWORD, DWORD) {
+        if (window == window_) ++count_;
+    }
+
+    HWINEVENTHOOK hook_;
+    inline static HWND window_ = nullptr;
+    inline static int count_ = 0;
+};
+
 class EveryPage : public testing::TestWithParam<std::int16_t> {
   protected:
     template <class Check> void ForEachPage(Check check) {
@@ -125,6 +153,15 @@ TEST_P(EveryPage, FocusStartsWhereTheUserTypesOrOnNext) {
         const LRESULT defaultId = SendMessageW(test.form.Hwnd(), DM_GETDEFID, 0, 0);
         EXPECT_EQ(LOWORD(defaultId), test.form.cmdNext.Id());
     });
+}
+
+TEST(Accessibility, EachPageChangeIsAnnouncedOnce) {
+    FormUnderTest test(kNewDevice);
+    const Announcements announcements(test.form.picHeader.Handle());
+    test.Show(3);
+    EXPECT_EQ(announcements.Count(), 1);
+    test.form.cmdNext_Click();
+    EXPECT_EQ(announcements.Count(), 2);
 }
 
 INSTANTIATE_TEST_SUITE_P(Modes, EveryPage, testing::Values(kFirstTimeSetup, kNewDevice));
