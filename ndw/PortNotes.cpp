@@ -19,9 +19,10 @@ constexpr std::size_t kNamesShown = 3;
 // The number of "COMn"; none for any other text.
 std::optional<int> NumberOf(const wchar_t* port) {
     if (std::wcsncmp(port, L"COM", 3) != 0) return std::nullopt;
+    if (port[3] < L'0' || port[3] > L'9') return std::nullopt; // the conversion takes blanks and signs
     wchar_t* end = nullptr;
     const long number = std::wcstol(port + 3, &end, 10);
-    if (end == port + 3 || *end != L'\0' || number < 1 || number > kPortCount) return std::nullopt;
+    if (*end != L'\0' || number < 1 || number > kPortCount) return std::nullopt;
     return static_cast<int>(number);
 }
 
