@@ -13,7 +13,6 @@
 namespace {
 
 constexpr wchar_t kSerialMap[] = L"HARDWARE\\DEVICEMAP\\SERIALCOMM";
-constexpr ULONGLONG kReadingTime_ms = 200;
 constexpr std::size_t kNamesShown = 3;
 
 // The number of "COMn"; none for any other text.
@@ -72,7 +71,7 @@ std::set<int> PortsOfComputer(HKEY root, const wchar_t* subKey) {
     }
 }
 
-std::map<int, std::vector<std::wstring>> PortsInUse(const std::wstring& folder) {
+std::map<int, std::vector<std::wstring>> PortsInUse(const std::wstring& folder, unsigned time) {
     std::map<int, std::vector<std::wstring>> uses;
     const ULONGLONG begin = GetTickCount64();
     WIN32_FIND_DATAW found{};
@@ -83,7 +82,7 @@ std::map<int, std::vector<std::wstring>> PortsInUse(const std::wstring& folder) 
         if (!MayBeConfiguration(found)) continue;
         if (const auto port = PortOf(folder + found.cFileName))
             uses[*port].push_back(SplitPath(found.cFileName, 3));
-    } while (GetTickCount64() - begin < kReadingTime_ms && FindNextFileW(handle, &found));
+    } while (GetTickCount64() - begin < time && FindNextFileW(handle, &found));
     return uses;
 }
 

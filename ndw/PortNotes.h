@@ -14,9 +14,11 @@
 std::set<int> PortsOfComputer(HKEY root, const wchar_t* subKey);
 
 // Port number to the names of the configurations in `folder` (ends in a backslash) that use it. Files of
-// another length or signature, locked ones and folders are passed over. Reading stops after 200 ms; what
-// was not read by then is missing.
-std::map<int, std::vector<std::wstring>> PortsInUse(const std::wstring& folder);
+// another length or signature, locked ones and folders are passed over. Reading stops after `time`
+// milliseconds; what was not read by then is missing.
+inline constexpr unsigned kReadingTime_ms = 200;
+std::map<int, std::vector<std::wstring>> PortsInUse(const std::wstring& folder,
+                                                    unsigned time = kReadingTime_ms);
 
 // "COM1" to "COM256" with their notes, for this computer and the suite's settings folder.
 std::vector<std::wstring> PortCaptions();
