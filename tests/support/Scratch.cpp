@@ -105,6 +105,11 @@ void ScratchKey::Set(const char* name, DWORD type, std::string_view bytes) const
                    static_cast<DWORD>(bytes.size()));
 }
 
+void ScratchKey::SetWide(const std::wstring& name, DWORD type, std::wstring_view text) const {
+    RegSetValueExW(key_, name.c_str(), 0, type, reinterpret_cast<const BYTE*>(text.data()),
+                   static_cast<DWORD>(text.size() * sizeof text[0]));
+}
+
 std::vector<Box> Answering(std::initializer_list<int> buttons, const std::function<void()>& act) {
     std::vector<Box> boxes;
     std::atomic<bool> done = false;

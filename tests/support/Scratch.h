@@ -53,6 +53,7 @@ class ScratchKey {
     const std::wstring& Path() const { return path_; } // below HKEY_CURRENT_USER
     // Just these bytes: no NUL is added to a text.
     void Set(const char* name, DWORD type, std::string_view bytes) const;
+    void SetWide(const std::wstring& name, DWORD type, std::wstring_view text) const;
 
   private:
     std::wstring path_;

@@ -1,0 +1,139 @@
+#include "app/SingleInstance.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <memory>
+#include <thread>
+
+namespace {
+
+struct Destroy {
+    using pointer = HWND;
+    void operator()(HWND window) const { DestroyWindow(window); }
+};
+using Window = std::unique_ptr<HWND, Destroy>;
+
+// Hidden windows, so that nothing disturbs whoever watches the tests.
+Window Make(const wchar_t* className, const wchar_t* caption, HWND parent = nullptr) {
+    WNDCLASSW look{};
+    look.lpfnWndProc = DefWindowProcW;
+    look.lpszClassName = className;
+    RegisterClassW(&look);
+    return Window(CreateWindowW(className, caption, parent ? WS_CHILD : WS_OVERLAPPEDWINDOW, 0, 0, 200, 100,
+                                parent, nullptr, nullptr, nullptr));
+}
+
+HWND Locate(const wchar_t* pattern, HWND start = nullptr) { return LocateWizardWindow(pattern, start); }
+
+} // namespace
+
+TEST(SingleInstance, TitleAndClassDecide) {
+    const struct {
+        const wchar_t *className, *caption, *pattern;
+        bool found;
+    } rows[] = {
+        {L"VWizardForm", L"Varnel test title", L"Varnel test title", true},
+        {L"VWizard", L"Varnel test title", L"Varnel test title", true},
+        {L"VWizardForm", L"Varnel test title", L"Varnel te*", true},
+        {L"VWizardForm", L"Varnel test title", L"Varnel test", false},
+        {L"VWizardForm", L"Varnel Test Title", L"Varnel test title", false},
+        {L"VWizardForm", L"", L"Varnel test title", false},
+        {L"VWizarForm", L"Varnel test title", L"Varnel test title", false},
+        {L"XVWizard", L"Varnel test title", L"Varnel test title", false},
+        {L"vwizardOther", L"Varnel test title", L"Varnel test title", false},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::PrintToString(std::wstring(row.className) + L"/" + row.caption));
+        const Window window = Make(row.className, row.caption);
+        EXPECT_EQ(Locate(row.pattern), row.found ? window.get() : nullptr);
+        EXPECT_EQ(FindRunningWizard(row.pattern), row.found);
+    }
+}
+
+TEST(SingleInstance, SearchesDepthFirst) {
+    const Window outer = Make(L"VWizardForm", L"Varnel test tree");
+    const Window foreign = Make(L"Foreign", L"", outer.get());
+    const Window inner = Make(L"VWizardForm", L"Varnel test tree", foreign.get());
+    EXPECT_EQ(Locate(L"Varnel test tree"), inner.get());
+    EXPECT_EQ(Locate(L"Varnel test tree", foreign.get()), inner.get());
+    EXPECT_EQ(Locate(L"Varnel test tree", inner.get()), nullptr);
+    HWND start = nullptr;
+    LocateWizardWindow(L"Varnel test tree", start);
+    EXPECT_EQ(start, GetDesktopWindow());
+}
+
+TEST(SingleInstance, RestoresAMinimisedWindow) {
+    const Window window = Make(L"VWizardForm", L"Varnel test minimised");
+    ShowWindow(window.get(), SW_SHOWMINNOACTIVE);
+    ASSERT_TRUE(IsIconic(window.get()));
+    EXPECT_TRUE(FindRunningWizard(L"Varnel test minimised"));
+    MSG message{};
+    for (int i = 0; i < 500 && IsIconic(window.get()); ++i) {
+        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+            DispatchMessageW(&message);
+        Sleep(2);
+    }
+    EXPECT_FALSE(IsIconic(window.get()));
+    EXPECT_EQ(GetForegroundWindow(), window.get());
+}
+
+TEST(SingleInstance, NeverWaitsForAHungWindow) {
+    std::atomic<bool> made = false, over = false;
+    std::thread hung([&] {
+        const Window foreign = Make(L"Foreign", L"Varnel test hung");
+        const Window wizard = Make(L"VWizardForm", L"Varnel test hung");
+        made = true;
+        for (int i = 0; i < 600 && !over; ++i)
+            Sleep(5); // takes no message
+    });
+    while (!made)
+        Sleep(1);
+    const DWORD begin = GetTickCount();
+    EXPECT_TRUE(FindRunningWizard(L"Varnel test hung"));
+    EXPECT_LT(GetTickCount() - begin, 500u);
+    over = true;
+    hung.join();
+}
+
+// Modes that no wizard has, so that a real one beside the tests does not matter.
+TEST(InstanceClaim, OnlyOneTakesTheMode) {
+    InstanceClaim first, otherMode;
+    EXPECT_TRUE(first.Take(90, L"Varnel test claim"));
+    EXPECT_TRUE(otherMode.Take(91, L"Varnel test claim"));
+    const auto takes = [](DWORD& time) {
+        bool taken = true;
+        std::thread second([&] {
+            const DWORD begin = GetTickCount();
+            InstanceClaim claim;
+            taken = claim.Take(90, L"Varnel test claim");
+            time = GetTickCount() - begin;
+        });
+        second.join();
+        return taken;
+    };
+    DWORD time = 0;
+    EXPECT_FALSE(takes(time)) << "no window of the first one comes";
+    EXPECT_TRUE(time >= 1900 && time < 4000) << time;
+    const Window window = Make(L"VWizardForm", L"Varnel test claim");
+    EXPECT_FALSE(takes(time));
+    EXPECT_LT(time, 1000u);
+}
+
+TEST(InstanceClaim, PassesOnWhenTheFirstEnds) {
+    std::atomic<bool> taken = false;
+    std::thread first([&] {
+        InstanceClaim claim;
+        claim.Take(92, L"Varnel test claim");
+        taken = true;
+        Sleep(200);
+    });
+    while (!taken)
+        Sleep(1);
+    InstanceClaim second;
+    const DWORD begin = GetTickCount();
+    EXPECT_TRUE(second.Take(92, L"Varnel test claim"));
+    const DWORD time = GetTickCount() - begin;
+    EXPECT_TRUE(time > 100 && time < 1500) << time;
+    first.join();
+}

@@ -1,0 +1,80 @@
+#include "ndw/PortNotes.h"
+
+#include "tests/ndw/DcpByHand.h"
+#include "tests/support/DemoSuite.h"
+#include "tests/support/Scratch.h"
+#include "win/Handles.h"
+
+#include <algorithm>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::string ForPort(const char* hex) { return DcpByHand().With(178, DcpByHand::Hex(hex)).Bytes(); }
+
+} // namespace
+
+TEST(PortNotes, PassOverWhatIsNoConfiguration) {
+    const ScratchFolder folder;
+    const struct {
+        const wchar_t* name;
+        std::string bytes;
+    } files[] = {
+        {L"LATHE2.DCP", ForPort("03 00")},
+        {L"Mill 1.dcp", ForPort("03 00")},
+        {L"D\u00e4n.Dcp", ForPort("00 01")},
+        {L"longer.dcpx", ForPort("04 00")},
+        {L"other.txt", ForPort("04 00")},
+        {L"short.DCP", ForPort("04 00").substr(1)},
+        {L"long.DCP", ForPort("04 00") + " "},
+        {L"empty.DCP", ""},
+        {L"damaged.DCP", "X" + ForPort("04 00").substr(1)},
+        {L"locked.DCP", ForPort("04 00")},
+    };
+    for (const auto& file : files)
+        WriteFileBytes(folder.Path() + file.name, file.bytes);
+    CreateDirectoryW((folder.Path() + L"X.DCP").c_str(), nullptr);
+    const win::UniqueKernelHandle lock(CreateFileW((folder.Path() + L"locked.DCP").c_str(), GENERIC_READ, 0,
+                                                   nullptr, OPEN_EXISTING, 0, nullptr));
+    auto uses = PortsInUse(folder);
+    EXPECT_EQ(uses.size(), 2u);
+    std::sort(uses[3].begin(), uses[3].end());
+    EXPECT_EQ(uses[3], (std::vector<std::wstring>{L"LATHE2", L"Mill 1"}));
+    EXPECT_EQ(uses[256], std::vector<std::wstring>{L"D\u00e4n"});
+    EXPECT_TRUE(PortsInUse(folder.Path() + L"missing\\").empty());
+}
+
+TEST(PortNotes, ReadingStopsInTime) {
+    const ScratchFolder folder;
+    for (const wchar_t* name : {L"a.DCP", L"b.DCP", L"c.DCP"})
+        WriteFileBytes(folder.Path() + name, ForPort("03 00"));
+    EXPECT_EQ(PortsInUse(folder)[3].size(), 3u);
+    EXPECT_EQ(PortsInUse(folder, 0)[3].size(), 1u);
+}
+
+TEST(PortNotes, PortsOfTheSerialMap) {
+    const ScratchKey key;
+    const struct {
+        DWORD type;
+        std::wstring port;
+    } values[] = {{REG_SZ, std::wstring(L"COM3\0", 5)},
+                  {REG_SZ, L"COM4"},
+                  {REG_SZ, L"COM256"},
+                  {REG_SZ, L"COM257"},
+                  {REG_SZ, L"COM0"},
+                  {REG_SZ, L"COM"},
+                  {REG_SZ, L"COM5x"},
+                  {REG_SZ, L"LPT1"},
+                  {REG_SZ, L"COM3"},
+                  {REG_DWORD, L"\x4F43"},
+                  {REG_SZ, L"COM6 far too long for a port"},
+                  {REG_SZ, L""},
+                  {REG_SZ, L"COM-7"},
+                  {REG_SZ, L"COM 8"}};
+    int count = 0;
+    for (const auto& value : values)
+        key.SetWide(L"\\Device\\Serial" + std::to_wstring(++count), value.type, value.port);
+    EXPECT_EQ(PortsOfComputer(HKEY_CURRENT_USER, key.Path().c_str()), (std::set<int>{3, 4, 256}));
+    EXPECT_TRUE(PortsOfComputer(HKEY_CURRENT_USER, (key.Path() + L"\\missing").c_str()).empty());
+}
