@@ -33,12 +33,12 @@ TEST(SingleInstance, TitleAndClassDecide) {
         const wchar_t *className, *caption, *pattern;
         bool found;
     } rows[] = {
-        {L"VWizardForm", L"Varnel test title", L"Varnel test title", true},
+        {L"VWizardTest", L"Varnel test title", L"Varnel test title", true},
         {L"VWizard", L"Varnel test title", L"Varnel test title", true},
-        {L"VWizardForm", L"Varnel test title", L"Varnel te*", true},
-        {L"VWizardForm", L"Varnel test title", L"Varnel test", false},
-        {L"VWizardForm", L"Varnel Test Title", L"Varnel test title", false},
-        {L"VWizardForm", L"", L"Varnel test title", false},
+        {L"VWizardTest", L"Varnel test title", L"Varnel te*", true},
+        {L"VWizardTest", L"Varnel test title", L"Varnel test", false},
+        {L"VWizardTest", L"Varnel Test Title", L"Varnel test title", false},
+        {L"VWizardTest", L"", L"Varnel test title", false},
         {L"VWizarForm", L"Varnel test title", L"Varnel test title", false},
         {L"XVWizard", L"Varnel test title", L"Varnel test title", false},
         {L"vwizardOther", L"Varnel test title", L"Varnel test title", false},
@@ -52,9 +52,9 @@ TEST(SingleInstance, TitleAndClassDecide) {
 }
 
 TEST(SingleInstance, SearchesDepthFirst) {
-    const Window outer = Make(L"VWizardForm", L"Varnel test tree");
+    const Window outer = Make(L"VWizardTest", L"Varnel test tree");
     const Window foreign = Make(L"Foreign", L"", outer.get());
-    const Window inner = Make(L"VWizardForm", L"Varnel test tree", foreign.get());
+    const Window inner = Make(L"VWizardTest", L"Varnel test tree", foreign.get());
     EXPECT_EQ(Locate(L"Varnel test tree"), inner.get());
     EXPECT_EQ(Locate(L"Varnel test tree", foreign.get()), inner.get());
     EXPECT_EQ(Locate(L"Varnel test tree", inner.get()), nullptr);
@@ -64,7 +64,7 @@ TEST(SingleInstance, SearchesDepthFirst) {
 }
 
 TEST(SingleInstance, RestoresAMinimisedWindow) {
-    const Window window = Make(L"VWizardForm", L"Varnel test minimised");
+    const Window window = Make(L"VWizardTest", L"Varnel test minimised");
     ShowWindow(window.get(), SW_SHOWMINNOACTIVE);
     ASSERT_TRUE(IsIconic(window.get()));
     EXPECT_TRUE(FindRunningWizard(L"Varnel test minimised"));
@@ -82,7 +82,7 @@ TEST(SingleInstance, NeverWaitsForAHungWindow) {
     std::atomic<bool> made = false, over = false;
     std::thread hung([&] {
         const Window foreign = Make(L"Foreign", L"Varnel test hung");
-        const Window wizard = Make(L"VWizardForm", L"Varnel test hung");
+        const Window wizard = Make(L"VWizardTest", L"Varnel test hung");
         made = true;
         for (int i = 0; i < 600 && !over; ++i)
             Sleep(5); // takes no message
@@ -115,7 +115,7 @@ TEST(InstanceClaim, OnlyOneTakesTheMode) {
     DWORD time = 0;
     EXPECT_FALSE(takes(time)) << "no window of the first one comes";
     EXPECT_TRUE(time >= 1900 && time < 4000) << time;
-    const Window window = Make(L"VWizardForm", L"Varnel test claim");
+    const Window window = Make(L"VWizardTest", L"Varnel test claim");
     EXPECT_FALSE(takes(time));
     EXPECT_LT(time, 1000u);
 }

@@ -85,9 +85,8 @@ TEST(Control, FollowsGivesTheTabOrder) {
     for (win::Control* control : {&form.button[2], &form.button[0], &form.button[1]})
         control->Visible(true);
     form.edit.Visible(true);
-    form.button[0].Follows(form.edit);
-    form.button[1].Follows(form.button[0]);
-    form.button[2].Follows(form.button[1]);
+    for (int i : {2, 1, 0})
+        form.button[i].Follows(form.edit);
     ShowWindow(form.Hwnd(), SW_SHOWNA);
     std::vector<HWND> order = {form.edit.Handle()};
     for (int i = 0; i < 3; ++i)
