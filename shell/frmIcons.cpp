@@ -186,8 +186,8 @@ void frmIcons::ShowScrollBar() {
     info.cbSize = sizeof info;
     info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
     info.nMin = 1;
-    info.nMax = strip_.count;
-    info.nPage = kIconSlots; // the last position is then the one that fills the strip
+    info.nMax = ScrollMaximum(strip_.count);
+    info.nPage = 1;
     info.nPos = strip_.scroll;
     if (NeedsScrollBar(strip_.count)) SetScrollInfo(hScrollIcons.Handle(), SB_CTL, &info, TRUE);
 }
