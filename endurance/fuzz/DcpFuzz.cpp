@@ -1,5 +1,5 @@
-#include "ndw/modDcp.h"
 #include "endurance/fuzz/Fuzz.h"
+#include "ndw/modDcp.h"
 
 namespace {
 

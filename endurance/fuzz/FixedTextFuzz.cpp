@@ -1,5 +1,5 @@
-#include "ndw/FixedText.h"
 #include "endurance/fuzz/Fuzz.h"
+#include "ndw/FixedText.h"
 
 namespace {
 
