@@ -1,0 +1,82 @@
+// Every link of the First-Time Setup Wizard, those that no page shows included: what is started, and how.
+
+#include "app/modLocations.h"
+#include "ftw/FtwPages.h"
+#include "tests/support/DemoSuite.h"
+#include "wizard/frmWizard.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Link {
+    std::int16_t page, index;
+    const wchar_t* program;     // the stand-in that is started; null: none
+    const wchar_t* commandLine; // "?" stands for the suite's folder
+};
+
+// clang-format off
+constexpr Link kLinks[] = {
+    { 7, 0, L"DocViewer.exe", L"\"?DocViewer.exe\" \"?QuickTour.chm\""},
+    { 7, 1, L"VConfig.exe",   L"\"?VConfig.exe\" /Manager"},
+    { 7, 2, L"VConfig.exe",   L"\"?VConfig.exe\" /Manager"},
+    { 8, 0, L"VLinkMgr.exe",  L"\"?VLinkMgr.exe\""},
+    { 8, 2, L"VLinkMgr.exe",  L"\"?VLinkMgr.exe\""},
+    {11, 0, L"DocViewer.exe", L"\"?DocViewer.exe\" \"?Setup Reference.pdf\""},
+    {13, 0, L"VConfig.exe",   L"\"?VConfig.exe\""},
+    {13, 1, L"DocViewer.exe", L"\"?DocViewer.exe\" \"?Setup Reference.pdf\""},
+    {14, 0, L"VWizard.exe",   L"\"?VWizard.exe\" /NDW /SHIFT"},
+    {14, 1, L"VConfig.exe",   L"\"?VConfig.exe\""},
+    {14, 2, L"DocViewer.exe", L"\"?DocViewer.exe\" \"?Setup Reference.pdf\""},
+    {15, 0, L"HH.exe",        L"HH.exe \"?LinkCheck.chm::/Problem - Hibernation.htm\""},
+    {15, 1, L"HH.exe",        L"HH.exe \"?LinkCheck.chm::/Problem - USB-Serial.htm\""},
+    {15, 2, L"HH.exe",        L"HH.exe \"?LinkCheck.chm::/Problem_Index.htm\""},
+    {16, 0, L"DocViewer.exe", L"\"?DocViewer.exe\" \"?Quick Tour Guide.pdf\""},
+    {17, 0, L"DocViewer.exe", L"\"?DocViewer.exe\" \"?Operator Guide.pdf\""},
+    {17, 1, L"VFileMgr.exe",  L"\"?VFileMgr.exe\""},
+    {17, 2, L"VConfig.exe",   L"\"?VConfig.exe\" /GENERAL"},
+    { 1, 0, nullptr,          L""},
+    {10, 0, nullptr,          L""},
+    {11, 1, nullptr,          L""},
+    {13, 2, nullptr,          L""},
+    {16, 1, nullptr,          L""},
+};
+// clang-format on
+
+std::wstring InSuite(std::wstring text, const DemoSuite& suite) {
+    for (auto at = text.find(L'?'); at != std::wstring::npos; at = text.find(L'?'))
+        text.replace(at, 1, suite.Folder());
+    return text;
+}
+
+} // namespace
+
+TEST(FtwLinks, EachStartsItsOwn) {
+    const DemoSuite suite;
+    // The wizard itself is one of the programs: a stand-in for it, too.
+    ASSERT_TRUE(CopyFileW((suite.Folder() + L"VConfig.exe").c_str(),
+                          (suite.Folder() + L"VWizard.exe").c_str(), FALSE));
+    const std::wstring programFolder = locations.AppPath;
+    locations.AppPath = suite.Folder();
+    // The system looks for HH.exe in the program's own folder and then in the current one.
+    wchar_t before[MAX_PATH] = L"";
+    GetCurrentDirectoryW(MAX_PATH, before);
+    SetCurrentDirectoryW(suite.Folder().c_str());
+    frmWizard form(FtwBook(), true);
+    std::size_t count = 0;
+    for (const Link& link : kLinks) {
+        SCOPED_TRACE("page " + std::to_string(link.page) + ", link " + std::to_string(link.index));
+        form.PageNo = link.page;
+        const std::size_t earlier = link.program ? suite.Starts(link.program).size() : 0;
+        form.lblHyperlink_Click(link.index);
+        if (link.program) {
+            const Start start = suite.WaitForStarts(link.program, earlier + 1).back();
+            EXPECT_EQ(start.commandLine, InSuite(link.commandLine, suite));
+            EXPECT_EQ(start.show, SW_SHOWNORMAL);
+            ++count;
+        }
+        EXPECT_EQ(suite.StartCount() + suite.Starts(L"VWizard.exe").size(), count);
+    }
+    locations.AppPath = programFolder;
+    SetCurrentDirectoryW(before);
+}
