@@ -51,6 +51,7 @@ void PageFtwFinal(frmWizard& form) {
                    L"<u>Cable and wiring diagrams</u>\r\n"
                    L"<u>Technical support</u>");
     ShowAppIcons(form, kAllAppIcons);
+    ShowAppIcons(form, kAllAppIcons);
 }
 
 void LeaveFtwFinal(frmWizard& form, Move move) {

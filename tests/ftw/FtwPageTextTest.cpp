@@ -52,6 +52,10 @@ std::vector<PageText> PageTexts(const std::wstring& folder) {
          L"• uploading, downloading and drip feeding\n"
          L"• viewing, editing and organizing files\n"
          L"• connecting CNCs to your computer"},
+        {8, L"", L"Specify Application Shortcuts",
+         L"You can start Varnel DNC applications using shortcuts provided in the Windows Start menu.\n\n"
+         L"You can create additional File Manager shortcuts by selecting the options below.\n\n"
+         L"For even more shortcut options, click [Shortcut Manager]."},
         {9, L"", L"Specify CNC file location",
          L"You can let Varnel DNC access all files on your computer, or you can restrict access to one or "
          L"more specific local or network folders.\n\n"
