@@ -8,7 +8,7 @@ rm -f build/pages/*.png
 for dpi in 96 144; do
     tools/tour.sh --dpi "$dpi"
     tools/tour.sh --dpi "$dpi" /NDW
-    tools/tour.sh --dpi "$dpi" --denied
+    tools/tour.sh --dpi "$dpi" --windows
 done
 tools/tour.sh --contrast
 tools/tour.sh --contrast /NDW

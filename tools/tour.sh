@@ -1,20 +1,20 @@
 #!/bin/bash
 # Walks every page of a wizard under Xvfb and leaves one picture a page in build/pages.
-#   tools/tour.sh [--dpi N] [--contrast] [--denied] [arguments of the wizard]
+#   tools/tour.sh [--dpi N] [--contrast] [--windows] [arguments of the wizard]
 #   --contrast   in a high-contrast scheme
-#   --denied     for a user who may not write the settings: the permission page alone
+#   --windows    what the walk does not meet: permission page, message window, choice dialog
 # The release program and the tools must have been built.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source tools/prefix.sh
 source tools/suite.sh
 
-dpi=96 contrast= denied=
+dpi=96 contrast= windows=
 while :; do
     case ${1:-} in
     --dpi) dpi=$2 && shift ;;
     --contrast) contrast=-contrast ;;
-    --denied) denied=yes ;;
+    --windows) windows=yes ;;
     *) break ;;
     esac
     shift
@@ -66,16 +66,31 @@ fi
 # On the prefix's own drive, so that a page which names a path shows one that a reader might have.
 suite="$WINEPREFIX/drive_c/Varnel DNC"
 lay_out_suite "$suite"
-[ -z "$denied" ] || rm "$suite/Settings/VarnelDnc.ini"
 register_suite "$suite"
+
+message="<b>The CNC does not answer.</b><br>|No character has arrived for <i>30 seconds</i>.||\
+<u>Check that the cable is connected.</u>|<u>Check that the CNC is ready to receive.</u>||\
+<l>COM1, 4800 baud, 7 data bits, even parity</l>"
+
+tour() { wine build/release/tour.exe "$@" || status=1; }
 status=0
-wine build/release/tour.exe "$(windows_path "$suite")\\VWizard.exe" "$(windows_path "$work")" "$@" || status=$?
+pictures=$(windows_path "$work") program=$(windows_path "$suite")\\VWizard.exe
+if [ -z "$windows" ]; then
+    tour "$pictures" "$program" "$@"
+else
+    dialogs=$(windows_path build/release/dialogs.exe)
+    tour --one message "$pictures" "$dialogs" message 5 1 "" "$message"
+    tour --one choice "$pictures" "$dialogs" choice 0
+    rm "$suite/Settings/VarnelDnc.ini"
+    tour --one permission "$pictures" "$program" "$@"
+fi
 
 suffix=$contrast
 [ "$dpi" = 96 ] || suffix=-${dpi}dpi$contrast
 for bitmap in "$work"/*.bmp; do
     [ -e "$bitmap" ] || continue
-    /usr/bin/convert "$bitmap" -strip "PNG8:build/pages/$(basename "$bitmap" .bmp)$suffix.png"
+    /usr/bin/convert "$bitmap" -strip +dither -colors 250 -define png:compression-level=9 \
+        -define png:compression-filter=0 "PNG8:build/pages/$(basename "$bitmap" .bmp)$suffix.png"
 done
 echo "Pictures of the pages: build/pages"
 exit "$status"

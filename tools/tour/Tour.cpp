@@ -1,6 +1,6 @@
 // Walks one wizard from its first page to its last by its own buttons and pictures every page.
-//   tour PROGRAM FOLDER [ARGUMENTS]   leaves FOLDER\ndw-01.bmp ... or FOLDER\ftw-01.bmp ...,
-//                                     or FOLDER\permission.bmp where the wizard has nothing else to show
+//   tour FOLDER PROGRAM [ARGUMENTS]              leaves FOLDER\ndw-01.bmp ... or FOLDER\ftw-01.bmp ...
+//   tour --one NAME FOLDER PROGRAM [ARGUMENTS]   leaves FOLDER\NAME.bmp of the program's one window
 #include "tools/tour/Capture.h"
 #include "tools/tour/Windows.h"
 
@@ -24,8 +24,8 @@ class Tour {
     }
 
     bool Run() {
-        if (!Start()) return Fail(L"the wizard did not open its window");
-        if (NextButton() == nullptr) return TakeLeave();
+        if (!Start() || !Wait([this] { return FindMain() && NextButton() != nullptr; }))
+            return Fail(L"the wizard did not open its window");
         for (step_ = 1; step_ <= 30; ++step_) {
             Settle(main_);
             FillIn();
@@ -36,19 +36,31 @@ class Tour {
         return Fail(L"the wizard did not end");
     }
 
+    bool RunOne(const std::wstring& name) {
+        if (!Start() || !Wait([this] { return (main_ = Asking()) != nullptr; }))
+            return Fail(L"the program did not open a window");
+        // It was active in its own process before it was in front, and then nothing tells its caption.
+        SetForegroundWindow(main_);
+        SendMessageW(main_, WM_NCACTIVATE, TRUE, 0);
+        Settle(main_);
+        Picture(main_, (L"\\" + name + L".bmp").c_str());
+        Answer(main_);
+        return Wait([this] { return Ended(); }) || Fail(L"the program did not end");
+    }
+
   private:
     bool Start() {
         STARTUPINFOW startup{};
         startup.cb = sizeof startup;
-        std::wstring line = L'"' + program_ + L"\" " + arguments_;
-        if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                            &process_))
-            return false;
-        return Wait([this] {
-            for (const HWND window : WindowsOf(process_.dwProcessId))
-                if (ClassOf(window).rfind(L"VWizard", 0) == 0) main_ = window;
-            return main_ != nullptr && (NextButton() != nullptr || CloseButton() != nullptr);
-        });
+        std::wstring line = L'"' + program_ + L'"' + arguments_;
+        return CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                              &process_) != FALSE;
+    }
+
+    bool FindMain() {
+        for (const HWND window : WindowsOf(process_.dwProcessId))
+            if (ClassOf(window).rfind(L"VWizard", 0) == 0) main_ = window;
+        return main_ != nullptr;
     }
 
     template <class Condition> bool Wait(Condition condition) const {
@@ -66,16 +78,6 @@ class Tour {
         for (const wchar_t* caption : {L"&Next >", L"&Create", L"&Finish"})
             if (const HWND button = FindControl(main_, L"Button", caption)) return button;
         return nullptr;
-    }
-
-    // Only the permission page has one.
-    [[nodiscard]] HWND CloseButton() const { return FindControl(main_, L"Button", L"&Close"); }
-
-    bool TakeLeave() {
-        Settle(main_);
-        Picture(main_, L"\\permission.bmp");
-        Press(CloseButton());
-        return Wait([this] { return Ended(); });
     }
 
     [[nodiscard]] int PageNumber() const {
@@ -134,7 +136,7 @@ class Tour {
     }
 
     void Answer(HWND box) const {
-        for (const wchar_t* caption : {L"OK", L"&OK", L"&Yes", L"Yes"})
+        for (const wchar_t* caption : {L"OK", L"&OK", L"&Yes", L"Yes", L"&Close", L"Cancel", L"&Cancel"})
             if (const HWND button = FindControl(box, L"Button", caption)) {
                 Press(button);
                 Wait([box] { return !IsWindow(box) || !IsWindowVisible(box); });
@@ -177,9 +179,19 @@ class Tour {
 } // namespace
 
 int wmain(int count, wchar_t** words) {
+    std::wstring name;
+    if (count > 2 && std::wstring(words[1]) == L"--one") {
+        name = words[2];
+        words += 2;
+        count -= 2;
+    }
     if (count < 3) return 2;
     std::wstring arguments;
-    for (int i = 3; i < count; ++i)
-        arguments += (i > 3 ? L" " : L"") + std::wstring(words[i]);
-    return Tour(words[1], words[2], arguments).Run() ? 0 : 1;
+    for (int i = 3; i < count; ++i) {
+        const std::wstring word = words[i];
+        const bool plain = !word.empty() && word.find(L' ') == std::wstring::npos;
+        arguments += L' ' + (plain ? word : L'"' + word + L'"');
+    }
+    Tour tour(words[2], words[1], arguments);
+    return (name.empty() ? tour.Run() : tour.RunOne(name)) ? 0 : 1;
 }
