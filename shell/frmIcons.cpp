@@ -96,7 +96,7 @@ void frmIcons::BindControls() {
     constexpr DWORD kPushButton = BS_PUSHBUTTON | BS_NOTIFY | WS_GROUP | WS_TABSTOP;
     cmdOK.Bind(*this, IDOK, L"Button", kPushButton);
     cmdCancel.Bind(*this, IDCANCEL, L"Button", kPushButton);
-    picIcons.Bind(*this, kStripId, L"Static", SS_WHITERECT | WS_CLIPSIBLINGS, WS_EX_CLIENTEDGE);
+    picIcons.Bind(*this, kStripId, L"Static", SS_OWNERDRAW | WS_CLIPSIBLINGS, WS_EX_CLIENTEDGE);
 }
 
 void frmIcons::OpenForm(const std::wstring& folder, HWND owner) {
@@ -266,7 +266,9 @@ LRESULT frmIcons::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void frmIcons::OnDrawItem(win::Control& control, const DRAWITEMSTRUCT& item) {
+    // The strip too: the system's own white rectangle is of another colour in high-contrast schemes.
     FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_WINDOW));
+    if (&control == &picIcons) return;
     const auto slot = static_cast<std::int16_t>(control.Id() - kSlotId + 1);
     const auto position = PositionInSlot(strip_, slot);
     if (!position) return;

@@ -65,7 +65,7 @@ frmMessage::frmMessage() {
         cmdButton[i].onClick = [this, i] { cmdButton_Click(i); };
     }
     txtMessage.Bind(*this, kTextId, win::RichText::kClassName, win::RichText::kStyle | WS_GROUP);
-    picMessage.Bind(*this, kPanelId, L"Static", SS_WHITERECT | WS_CLIPSIBLINGS);
+    picMessage.Bind(*this, kPanelId, L"Static", SS_OWNERDRAW | WS_CLIPSIBLINGS);
 }
 
 std::int16_t frmMessage::Show(const std::wstring& message, std::int16_t buttons, std::int16_t size,
@@ -128,6 +128,11 @@ LRESULT frmMessage::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         FillRect(reinterpret_cast<HDC>(wParam), &panel, GetSysColorBrush(COLOR_WINDOW));
     }
     return result;
+}
+
+// The system's own white rectangle is of another colour in high-contrast schemes.
+void frmMessage::OnDrawItem(win::Control&, const DRAWITEMSTRUCT& item) {
+    FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_WINDOW));
 }
 
 std::int16_t ShowMessage(const std::wstring& message, std::int16_t buttons, std::int16_t size,

@@ -33,6 +33,7 @@ class frmMessage : public win::Form {
 
   protected:
     LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    void OnDrawItem(win::Control& control, const DRAWITEMSTRUCT& item) override;
     void OnEscape() override { Form_QueryUnload(); }
 
   private:
