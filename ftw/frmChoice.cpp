@@ -15,11 +15,10 @@ using win::Twips;
 constexpr Twips kMargin = 240_tw;
 constexpr Twips kWidth = 5700_tw; // of text and options
 constexpr Twips kLine = 210_tw;
-constexpr Twips kOption = kLine * 2 + 30_tw; // two lines
+constexpr Twips kOptionGap = 105_tw;
 constexpr Twips kButtonWidth = 1095_tw;
 constexpr Twips kButtonHeight = 375_tw;
-constexpr Twips kOptionTop = kMargin + kLine * 3 + 60_tw;
-constexpr Twips kButtonTop = kOptionTop + kOption * 3 + 120_tw;
+constexpr Twips kOptionTop = kMargin + kLine * 3;
 
 constexpr DWORD kStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
 constexpr DWORD kExtendedStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
@@ -28,11 +27,18 @@ constexpr wchar_t kInstructions[] =
     L"If you are installing Varnel DNC for the first time, choose \"New Installation\" and "
     L"complete the First-Time Setup Wizard.";
 
-constexpr const wchar_t* kOptions[] = {
-    L"New Installation. Continue First-Time Setup Wizard.",
-    L"Move/Recover Installation. Load a set of previously-saved Varnel DNC configuration files.",
-    L"Exit now.",
+struct OptionRow {
+    const wchar_t* caption;
+    int lines;
 };
+
+// clang-format off
+constexpr OptionRow kOptions[] = {
+    {L"New Installation. Continue First-Time Setup Wizard.", 1},
+    {L"Move/Recover Installation. Load a set of previously-saved Varnel DNC configuration files.", 2},
+    {L"Exit now.", 1},
+};
+// clang-format on
 
 } // namespace
 
@@ -53,16 +59,18 @@ void frmChoice::PlaceControls() {
     lblInstructions.Place(kMargin, kMargin, kWidth, kLine * 3);
     lblInstructions.Text(kInstructions);
     lblInstructions.Visible(true);
+    Twips top = kOptionTop;
     for (std::size_t i = 0; i < optChoice.size(); ++i) {
-        optChoice[i].Place(kMargin, kOptionTop + kOption * static_cast<int>(i), kWidth, kOption);
-        optChoice[i].Text(kOptions[i]);
+        optChoice[i].Place(kMargin, top, kWidth, kLine * kOptions[i].lines);
+        optChoice[i].Text(kOptions[i].caption);
         optChoice[i].Visible(true);
+        top = optChoice[i].Bottom() + kOptionGap;
     }
-    cmdOK.Place(kMargin + kWidth - kButtonWidth, kButtonTop, kButtonWidth, kButtonHeight);
+    cmdOK.Place(kMargin + kWidth - kButtonWidth, top + kMargin - kOptionGap, kButtonWidth, kButtonHeight);
     cmdOK.Text(L"OK");
     cmdOK.Visible(true);
     DefaultButton(cmdOK);
-    RECT window{0, 0, win::Px(kWidth + kMargin * 2), win::Px(kButtonTop + kButtonHeight + kMargin)};
+    RECT window{0, 0, win::Px(kWidth + kMargin * 2), win::Px(cmdOK.Bottom() + kMargin)};
     AdjustWindowRectEx(&window, kStyle, FALSE, kExtendedStyle);
     const LONG width = window.right - window.left;
     const LONG height = window.bottom - window.top;
