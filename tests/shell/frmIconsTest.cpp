@@ -149,6 +149,30 @@ TEST(frmIcons, PassesOverDamagedFilesAndTakesAnyName) {
     EXPECT_EQ(form.Result(), L"R&D 1.x.ico");
 }
 
+// What the list draws in the middle of a picture.
+COLORREF ColourOf(const IconList& icons, std::int16_t position) {
+    const HDC screen = GetDC(nullptr);
+    const win::Unique<HDC, DeleteDC> dc(CreateCompatibleDC(screen));
+    const win::UniqueBitmap bitmap(CreateCompatibleBitmap(screen, 48, 48));
+    ReleaseDC(nullptr, screen);
+    const HGDIOBJ before = SelectObject(dc.Get(), bitmap.Get());
+    icons.Draw(position, dc.Get(), 0, 0);
+    const COLORREF colour = GetPixel(dc.Get(), 24, 24);
+    SelectObject(dc.Get(), before);
+    return colour;
+}
+
+TEST(IconList, KeepsPicturesAndNamesInStep) {
+    const ScratchFolder folder;
+    WriteFileBytes(folder.Path() + L"a.ico", IconFile("\x10\x20\xF0")); // blue, green, red
+    WriteFileBytes(folder.Path() + L"b.ico", "no picture");
+    WriteFileBytes(folder.Path() + L"C.ico", IconFile("\xF0\x20\x10"));
+    const IconList icons(folder.Path(), IconKeys(folder.Path()), 48);
+    EXPECT_EQ(icons.Keys(), (std::vector<std::wstring>{L"a", L"C"}));
+    EXPECT_EQ(ColourOf(icons, 1), RGB(0xF0, 0x20, 0x10));
+    EXPECT_EQ(ColourOf(icons, 2), RGB(0x10, 0x20, 0xF0));
+}
+
 TEST(frmIcons, HoldsItsOwnerMeanwhileAndForgetsItsLastResult) {
     const auto folder = FolderWith(3);
     const HWND owner = CreateWindowExW(0, L"Static", L"", WS_POPUP | WS_VISIBLE, 300, 200, 500, 400, nullptr,
