@@ -1,0 +1,104 @@
+#!/usr/bin/env python3
+"""The package that is handed over: what is in it, and that it comes out the same every time.
+
+    tests/package/package_test.py     (the release program, icons and samples must have been built)
+"""
+import os
+import shutil
+import subprocess
+import tempfile
+import time
+import unittest
+import zipfile
+
+ROOT = os.path.realpath(os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", ".."))
+BUILD = os.path.join(ROOT, "build", "release")
+
+CONFIGURATION_SIZE = 5449
+FEWEST_OF_A_KIND = 12
+
+
+def in_shell(command, *arguments):
+    return subprocess.run(["bash", "-ec", "source tools/pack.sh; " + command, "pack", *arguments], cwd=ROOT,
+                          check=True, stdout=subprocess.PIPE, text=True).stdout
+
+
+def pack(build, scratch):
+    """The path of a package of what `build` holds."""
+    in_shell('pack "$1" "$2/content" "$2/package.zip"', build, scratch)
+    return os.path.join(scratch, "package.zip")
+
+
+def copy_made_otherwise(scratch):
+    """The parts of the build folder again, as another computer might have made them: younger files in
+    another order, with other permissions."""
+    copy = os.path.join(scratch, "build")
+    for folder in ("Samples", "Icons", "."):
+        os.makedirs(os.path.join(copy, folder), exist_ok=True)
+        names = ["VWizard.exe"] if folder == "." else sorted(os.listdir(os.path.join(BUILD, folder)), reverse=True)
+        for name in names:
+            target = os.path.join(copy, folder, name)
+            shutil.copyfile(os.path.join(BUILD, folder, name), target)
+            os.chmod(target, 0o600)
+    return copy
+
+
+class Package(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.scratch = tempfile.TemporaryDirectory()
+        cls.addClassCleanup(cls.scratch.cleanup)
+        cls.file = pack(BUILD, os.path.join(cls.scratch.name, "first"))
+        cls.zip = zipfile.ZipFile(cls.file)
+        cls.addClassCleanup(cls.zip.close)
+        cls.names = cls.zip.namelist()
+
+    def in_folder(self, folder):
+        return [name for name in self.names if name.startswith(folder + "/")]
+
+    def test_holds_the_program_and_its_companions(self):
+        alone = [name for name in self.names if "/" not in name]
+        self.assertEqual(alone, ["README.txt", "VWizard.exe"])
+        with open(os.path.join(BUILD, "VWizard.exe"), "rb") as program:
+            self.assertEqual(self.zip.read("VWizard.exe"), program.read())
+        self.assertEqual(len(self.in_folder("Icons")) + len(self.in_folder("Samples")) + len(alone),
+                         len(self.names))
+
+    def test_icons(self):
+        icons = self.in_folder("Icons")
+        self.assertGreaterEqual(len(icons), FEWEST_OF_A_KIND)
+        self.assertIn("Icons/VDNC32.ICO", icons)
+        for name in icons:
+            self.assertEqual(self.zip.read(name)[:4], b"\0\0\1\0", name)
+
+    def test_samples(self):
+        samples = self.in_folder("Samples")
+        self.assertGreaterEqual(len(samples), FEWEST_OF_A_KIND)
+        for name in samples:
+            self.assertEqual(len(self.zip.read(name)), CONFIGURATION_SIZE, name)
+            self.assertTrue(self.zip.read(name).startswith(b"VDNCW32A "), name)
+
+    def test_notes_for_administrators(self):
+        text = self.zip.read("README.txt").decode("ascii")
+        lines = text.split("\r\n")
+        self.assertNotIn("\n", "".join(lines))
+        self.assertRegex(lines[0], r"^Varnel DNC Setup and Configuration Wizard \d+\.\d+\.\d+$")
+        self.assertNotIn("@", text)
+        for switch in ("/NDW", "/SHIFT", "/VCONFIG"):
+            self.assertIn(switch, text)
+
+    def test_holds_nothing_of_the_time_and_place_of_packing(self):
+        self.assertEqual(self.names, sorted(self.names))
+        committed = time.gmtime(int(in_shell("source_time")) + 1 & ~1)  # kept in even seconds, rounded up
+        for entry in self.zip.infolist():
+            self.assertEqual(entry.date_time, committed[:6], entry.filename)
+            self.assertEqual(entry.extra, b"", entry.filename)
+
+    def test_comes_out_the_same_every_time(self):
+        second = os.path.join(self.scratch.name, "second")
+        with open(self.file, "rb") as one, open(pack(copy_made_otherwise(second), second), "rb") as other:
+            self.assertEqual(one.read(), other.read())
+
+
+if __name__ == "__main__":
+    unittest.main()
