@@ -81,7 +81,9 @@ Effort EffortOf(int process) {
     Effort effort;
     effort.ticks = TicksOf(ReadAll(folder + L"stat"));
     for (const std::wstring& thread : NumbersIn(folder + L"task\\")) {
-        const std::string status = ReadAll(folder + L"task\\" + thread + L"\\status");
+        std::wstring path = folder + L"task\\";
+        path += thread;
+        const std::string status = ReadAll(path + L"\\status");
         effort.switches +=
             SumOf(status, "voluntary_ctxt_switches:") + SumOf(status, "nonvoluntary_ctxt_switches:");
     }

@@ -10,6 +10,7 @@
 #include <commctrl.h>
 #include <prsht.h>
 
+#include <stdexcept>
 #include <vector>
 
 namespace {
@@ -42,14 +43,21 @@ void TourOfWizard(Changes& changes) {
     form.Form_Load();
     // Up to the page of the name: the next one would create a file. One page is left out by the answers.
     constexpr int kPages = kNdwNamePage - 1;
-    Tour(form.Hwnd(), kPages, changes,
-         [&](bool forward) { (forward ? form.cmdNext : form.cmdBack).Send(BM_CLICK); });
+    Tour(form.Hwnd(), kPages, changes, [&](bool forward) {
+        const std::int16_t before = form.PageNo;
+        (forward ? form.cmdNext : form.cmdBack).Send(BM_CLICK);
+        if (form.PageNo == before) throw std::runtime_error("the wizard stays");
+    });
 }
 
 void TourOfSheet(Changes& changes) {
     RunSheetWizard([&](HWND sheet) {
-        Tour(sheet, kSheetPages, changes,
-             [&](bool forward) { PropSheet_PressButton(sheet, forward ? PSBTN_NEXT : PSBTN_BACK); });
+        Tour(sheet, kSheetPages, changes, [&](bool forward) {
+            const HWND before = PropSheet_GetCurrentPageHwnd(sheet);
+            SendMessageW(sheet, PSM_PRESSBUTTON, forward ? PSBTN_NEXT : PSBTN_BACK,
+                         0); // the macro only posts it
+            if (PropSheet_GetCurrentPageHwnd(sheet) == before) throw std::runtime_error("the sheet stays");
+        });
     });
 }
 

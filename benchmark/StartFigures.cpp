@@ -36,7 +36,7 @@ std::vector<Runs> Peers(const Bench& bench) {
 // A mark in the command line by which the process is found; programs do not mind words unknown to them.
 std::string Mark(Program& program) {
     static int count = 0;
-    const std::string mark = "/mark" + std::to_string(GetCurrentProcessId()) + "." + std::to_string(++count);
+    std::string mark = "/mark" + std::to_string(GetCurrentProcessId()) + "." + std::to_string(++count);
     program.commandLine += L" " + std::wstring(mark.begin(), mark.end());
     return mark;
 }
