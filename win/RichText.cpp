@@ -3,9 +3,8 @@
 #include "win/AppError.h"
 #include "win/Screen.h"
 
-#include <richedit.h>
-
 #include <iterator>
+#include <utility>
 
 namespace win {
 
@@ -59,15 +58,35 @@ bool RichText::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& re
     return true;
 }
 
+bool RichText::IsPlain() const {
+    const CHARFORMAT2W plain = PlainFormat(Font());
+    CHARFORMAT2W present = CharFormat(0);
+    Ask(EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&present));
+    PARAFORMAT2 flush = ParaFormat(0);
+    Ask(EM_GETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&flush));
+    return (present.dwEffects & plain.dwMask) == plain.dwEffects && present.yHeight == plain.yHeight &&
+           present.bCharSet == plain.bCharSet && lstrcmpiW(present.szFaceName, plain.szFaceName) == 0 &&
+           flush.wNumbering == 0 && flush.dxStartIndent == 0 && flush.dxRightIndent == 0 &&
+           flush.dxOffset == 0;
+}
+
 void RichText::SetText(std::wstring_view text) {
     SetWindowTextW(Handle(), std::wstring(text).c_str());
-    // Some versions keep the first character's format for the new text, others forget all formats.
+    // Some versions keep the first character's format for all of the new text, others forget all formats.
+    // Formatting anew what is plain already would cost more than all the rest: the text would be measured
+    // again, with fonts that have just been thrown away.
     SelStart(0);
+    PlaceCaret();
+    if (IsPlain()) return;
     SelLength(-1);
     CHARFORMAT2W plain = PlainFormat(Font());
     Send(EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&plain));
     PARAFORMAT2 flush = ParaFormat(PFM_NUMBERING | PFM_STARTINDENT | PFM_RIGHTINDENT | PFM_OFFSET);
     Send(EM_SETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&flush));
+}
+
+void RichText::ScrollBar(bool visible) {
+    if (std::exchange(hasScrollBar_, visible) != visible) Send(EM_SHOWSCROLLBAR, SB_VERT, visible);
 }
 
 std::wstring RichText::Text() const {
@@ -85,32 +104,53 @@ std::wstring RichText::Text() const {
     return text;
 }
 
-void RichText::SelStart(std::int32_t position) {
-    CHARRANGE range{position, position};
-    Send(EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&range));
+void RichText::Select(CHARRANGE range) const {
+    CHARRANGE present{};
+    Ask(EM_EXGETSEL, 0, reinterpret_cast<LPARAM>(&present));
+    if (range.cpMin != present.cpMin || range.cpMax != present.cpMax)
+        Ask(EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&range));
 }
+
+void RichText::PlaceCaret() const {
+    if (const auto start = std::exchange(start_, std::nullopt)) Select({*start, *start});
+}
+
+void RichText::SelStart(std::int32_t position) { start_ = position; }
 
 void RichText::SelLength(std::int32_t length) {
     CHARRANGE range{};
     Send(EM_EXGETSEL, 0, reinterpret_cast<LPARAM>(&range));
-    range.cpMax = length < 0 ? -1 : range.cpMin + length;
-    Send(EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&range));
+    if (const auto start = std::exchange(start_, std::nullopt)) range.cpMin = *start;
+    Select({range.cpMin, length < 0 ? -1 : range.cpMin + length});
 }
 
 void RichText::SelText(std::wstring_view text) {
+    PlaceCaret();
     Send(EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(std::wstring(text).c_str()));
+}
+
+// The bits of the effects are those of the mask.
+void RichText::SetCharFormat(const CHARFORMAT2W& wanted) {
+    PlaceCaret();
+    CHARFORMAT2W present = CharFormat(0);
+    Ask(EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&present));
+    const bool isSame = (present.dwMask & wanted.dwMask) == wanted.dwMask &&
+                        (present.dwEffects & wanted.dwMask) == wanted.dwEffects &&
+                        (!(wanted.dwMask & CFM_COLOR) || (wanted.dwEffects & CFE_AUTOCOLOR) ||
+                         present.crTextColor == wanted.crTextColor);
+    if (!isSame) Send(EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&wanted));
 }
 
 void RichText::SelBold(bool bold) {
     CHARFORMAT2W format = CharFormat(CFM_BOLD);
     format.dwEffects = bold ? CFE_BOLD : 0;
-    Send(EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
+    SetCharFormat(format);
 }
 
 void RichText::SelItalic(bool italic) {
     CHARFORMAT2W format = CharFormat(CFM_ITALIC);
     format.dwEffects = italic ? CFE_ITALIC : 0;
-    Send(EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
+    SetCharFormat(format);
 }
 
 void RichText::SelColor(std::uint32_t rgb) {
@@ -118,10 +158,11 @@ void RichText::SelColor(std::uint32_t rgb) {
     // Black means the system's text colour, so that a high-contrast scheme stays readable.
     if (rgb == 0) format.dwEffects = CFE_AUTOCOLOR;
     format.crTextColor = rgb;
-    Send(EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
+    SetCharFormat(format);
 }
 
 void RichText::SelBullet(bool bullet) {
+    PlaceCaret();
     PARAFORMAT2 format = ParaFormat(PFM_NUMBERING | PFM_OFFSET);
     format.wNumbering = bullet ? PFN_BULLET : 0;
     format.dxOffset = bullet ? kBulletOffset : 0;
@@ -129,24 +170,28 @@ void RichText::SelBullet(bool bullet) {
 }
 
 void RichText::SelIndent(std::int16_t twips) {
+    PlaceCaret();
     PARAFORMAT2 format = ParaFormat(PFM_STARTINDENT);
     format.dxStartIndent = twips;
     Send(EM_SETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&format));
 }
 
 void RichText::SelRightIndent(std::int16_t twips) {
+    PlaceCaret();
     PARAFORMAT2 format = ParaFormat(PFM_RIGHTINDENT);
     format.dxRightIndent = twips;
     Send(EM_SETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&format));
 }
 
 void RichText::SelFontSize(std::int16_t points) {
+    PlaceCaret();
     CHARFORMAT2W format = CharFormat(CFM_SIZE);
     format.yHeight = points * (kTwipsPerInch / 72);
     Send(EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
 }
 
 std::int16_t RichText::SelFontSize() const {
+    PlaceCaret();
     CHARFORMAT2W format = CharFormat(CFM_SIZE);
     Ask(EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
     return static_cast<std::int16_t>(format.yHeight / (kTwipsPerInch / 72));
@@ -154,6 +199,7 @@ std::int16_t RichText::SelFontSize() const {
 
 void RichText::ScrollToTop() {
     SelStart(0);
+    PlaceCaret();
     Send(EM_SCROLLCARET);
 }
 

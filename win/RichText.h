@@ -6,7 +6,10 @@
 
 #include "win/Control.h"
 
+#include <richedit.h>
+
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -35,6 +38,8 @@ class RichText : public Control {
     void SelFontSize(std::int16_t points);
     std::int16_t SelFontSize() const;
 
+    // For a control bound without WS_VSCROLL, whose text then keeps its width whatever its height is.
+    void ScrollBar(bool visible);
     // Deselects and shows the first line.
     void ScrollToTop();
     // Height of the whole text, with the control's present width. Only while scrolled to the top.
@@ -49,6 +54,15 @@ class RichText : public Control {
         return SendMessageW(HandleIfMade(), message, wParam, lParam);
     }
     int LineHeight() const; // pixels
+    bool IsPlain() const;   // the format at the caret
+    void SetCharFormat(const CHARFORMAT2W& wanted);
+    void PlaceCaret() const; // where SelStart has put it
+    void Select(CHARRANGE range) const;
+
+    // Set by SelStart. Most often SelLength follows: one selection instead of two, each of which the control
+    // would mark for painting.
+    mutable std::optional<std::int32_t> start_;
+    bool hasScrollBar_ = false; // made visible by ScrollBar
 };
 
 // Makes the rich-text class known; from the system's folder only.
