@@ -7,6 +7,7 @@
 #include <oleacc.h>
 
 #include <algorithm>
+#include <utility>
 
 namespace win {
 
@@ -19,14 +20,19 @@ void Control::Bind(Form& form, int id, const wchar_t* className, DWORD style, DW
     form.controls_.push_back(this);
 }
 
+RECT Control::Area() const {
+    // Both edges are rounded, not the size, so that neighbours meet at every resolution.
+    return {Px(left_), Px(top_), Px(left_ + width_), Px(top_ + height_)};
+}
+
 HWND Control::Handle() {
     if (hwnd_) return hwnd_;
-    const int left = Px(left_);
-    const int top = Px(top_);
-    hwnd_ = CreateWindowExW(extendedStyle_, className_, L"", WS_CHILD | style_ | (visible_ ? WS_VISIBLE : 0),
-                            left, top, Px(left_ + width_) - left, Px(top_ + height_) - top, form_->Hwnd(),
-                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(id_)), GetModuleHandleW(nullptr),
-                            nullptr);
+    area_ = Area();
+    isShown_ = visible_ && !form_->IsArranging();
+    hwnd_ = CreateWindowExW(extendedStyle_, className_, L"", WS_CHILD | style_ | (isShown_ ? WS_VISIBLE : 0),
+                            area_.left, area_.top, area_.right - area_.left, area_.bottom - area_.top,
+                            form_->Hwnd(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(id_)),
+                            GetModuleHandleW(nullptr), nullptr);
     SendMessageW(hwnd_, WM_SETFONT, reinterpret_cast<WPARAM>(Font()), FALSE);
     Made();
     return hwnd_;
@@ -38,18 +44,40 @@ void Control::Place(Twips left, Twips top, Twips width, Twips height) {
     top_ = top;
     width_ = width;
     height_ = height;
-    if (!hwnd_) return;
-    // Both edges are rounded, not the size, so that neighbours meet at every resolution.
-    const int x = Px(left);
-    const int y = Px(top);
-    SetWindowPos(hwnd_, nullptr, x, y, Px(left + width) - x, Px(top + height) - y,
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+    Changed();
 }
 
 void Control::Visible(bool visible) {
     if (visible == visible_) return;
     visible_ = visible;
-    if (visible || hwnd_) ShowWindow(Handle(), visible ? SW_SHOWNA : SW_HIDE);
+    Changed();
+}
+
+void Control::Changed() {
+    if (form_->IsArranging())
+        form_->Note(*this);
+    else
+        Settle();
+}
+
+// One call for place, order and visibility: each by itself would cost as much as all together. What is
+// hidden has neither place nor order; it gets them when it is shown.
+void Control::Settle() {
+    if (!visible_ && !isShown_) return;
+    const HWND window = Handle();
+    const RECT old = std::exchange(area_, Area());
+    const bool wasShown = std::exchange(isShown_, visible_);
+    const HWND behind = previous_ ? std::exchange(previous_, nullptr)->Handle() : nullptr;
+    UINT flags = SWP_NOACTIVATE | SWP_NOREDRAW;
+    if (EqualRect(&old, &area_)) flags |= SWP_NOMOVE | SWP_NOSIZE;
+    if (!behind || GetWindow(window, GW_HWNDPREV) == behind) flags |= SWP_NOZORDER;
+    if (visible_ != wasShown) flags |= visible_ ? SWP_SHOWWINDOW : SWP_HIDEWINDOW;
+    constexpr UINT kNothing = SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW;
+    if (flags == kNothing) return;
+    SetWindowPos(window, behind, area_.left, area_.top, area_.right - area_.left, area_.bottom - area_.top,
+                 flags);
+    if (wasShown) form_->Uncover(old);
+    if (visible_) form_->Uncover(area_);
 }
 
 void Control::Enabled(bool enabled) { EnableWindow(Handle(), enabled); }
@@ -67,23 +95,22 @@ void Control::ToolTip(std::wstring_view text) {
 }
 
 void Control::Font(HFONT font) {
+    const HFONT before = Font();
     font_ = font;
-    if (hwnd_) SendMessageW(hwnd_, WM_SETFONT, reinterpret_cast<WPARAM>(Font()), TRUE);
+    if (hwnd_ && Font() != before) SendMessageW(hwnd_, WM_SETFONT, reinterpret_cast<WPARAM>(Font()), TRUE);
 }
 
 HFONT Control::Font() const { return font_ ? font_ : form_->DefaultFont(); }
 
-void Control::Focus() {
-    const HWND window = Handle();
-    SendMessageW(form_->Hwnd(), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(window), TRUE);
-}
+void Control::Focus() { form_->Focus(*this); }
 
 void Control::Repaint() {
     if (hwnd_) InvalidateRect(hwnd_, nullptr, TRUE);
 }
 
 void Control::Follows(Control& previous) {
-    SetWindowPos(Handle(), previous.Handle(), 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    previous_ = &previous;
+    Changed();
 }
 
 void Control::InterceptMessages() {
@@ -97,6 +124,20 @@ LRESULT CALLBACK Control::InterceptedProcedure(HWND window, UINT message, WPARAM
     LRESULT result = 0;
     if (control.OnMessage(message, wParam, lParam, result)) return result;
     return control.SystemProcedure(message, wParam, lParam);
+}
+
+// An option button's tab stop goes with its mark. An automatic one that is marked may ask every window of
+// the form whether it belongs to the group, so it is not automatic for the moment: who sets one sets all.
+void Button::Checked(bool checked) {
+    const LONG style = GetWindowLongW(Handle(), GWL_STYLE);
+    const bool isOption = (style & BS_TYPEMASK) == BS_AUTORADIOBUTTON;
+    if (Checked() == checked && (!isOption || ((style & WS_TABSTOP) != 0) == checked)) return;
+    if (isOption) SetWindowLongW(Handle(), GWL_STYLE, (style & ~BS_TYPEMASK) | BS_RADIOBUTTON);
+    Send(BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED);
+    if (isOption) {
+        const LONG marked = GetWindowLongW(Handle(), GWL_STYLE);
+        SetWindowLongW(Handle(), GWL_STYLE, (marked & ~BS_TYPEMASK) | BS_AUTORADIOBUTTON);
+    }
 }
 
 bool Link::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {

@@ -2,7 +2,8 @@
 
 // One child control of a form: a thin handle on a control of the system's own class. The window is made
 // when it is first needed (shown, filled or read), so that a form pays only for what its page uses;
-// until then place, visibility and tool tip are kept here. Positions and sizes are twips in the form's
+// until then place, visibility and tool tip are kept here. So they are while the form is being arranged
+// (see Form::Arrangement). Positions and sizes are twips in the form's
 // client area. A control must not outlive its form's window.
 
 #include "win/Handles.h"
@@ -79,6 +80,9 @@ class Control {
   private:
     friend class Form;
     static LRESULT CALLBACK InterceptedProcedure(HWND, UINT, WPARAM, LPARAM);
+    void Settle();     // gives the window what is noted
+    void Changed();    // place, order or visibility: settled at once or noted by the form
+    RECT Area() const; // where it is to be, in pixels
 
     Form* form_ = nullptr;
     const wchar_t* className_ = nullptr;
@@ -91,6 +95,9 @@ class Control {
     Twips left_{}, top_{}, width_{}, height_{};
     bool visible_ = false;
     std::wstring toolTip_;
+    Control* previous_ = nullptr; // to be put behind it
+    bool isShown_ = false;        // isShown_ and area_: what the window has
+    RECT area_{};
 };
 
 class Label : public Control {};
@@ -99,7 +106,7 @@ class Label : public Control {};
 class Button : public Control {
   public:
     bool Checked() { return Send(BM_GETCHECK) == BST_CHECKED; }
-    void Checked(bool checked) { Send(BM_SETCHECK, checked ? BST_CHECKED : BST_UNCHECKED); }
+    void Checked(bool checked);
 };
 
 // Clickable text: a button drawn by its form. A hand over it; Space and Enter follow it.

@@ -4,6 +4,8 @@
 
 #include <commctrl.h>
 
+#include <utility>
+
 namespace win {
 
 namespace {
@@ -63,6 +65,43 @@ void Form::Hide() {
 void Form::DefaultButton(Control& button) {
     button.Handle();
     SendMessageW(hwnd_, DM_SETDEFID, static_cast<WPARAM>(button.Id()), 0);
+}
+
+void Form::Note(Control& control) {
+    std::erase(noted_, &control);
+    noted_.push_back(&control);
+}
+
+void Form::BeginArrangement(const RECT& area) {
+    UnionRect(&uncovered_, &uncovered_, &area);
+    if (arrangements_++ > 0) return;
+    // Switching it on again would show a window that is still hidden.
+    isUnpainted_ = (GetWindowLongW(hwnd_, GWL_STYLE) & WS_VISIBLE) != 0;
+    if (isUnpainted_) DefWindowProcW(hwnd_, WM_SETREDRAW, FALSE, 0);
+}
+
+void Form::EndArrangement() {
+    if (arrangements_ == 1) // while changes still are gathered for one painting
+        for (Control* control : std::exchange(noted_, {}))
+            control->Settle();
+    if (--arrangements_ > 0) return;
+    if (isUnpainted_) DefWindowProcW(hwnd_, WM_SETREDRAW, TRUE, 0);
+    Uncover(std::exchange(uncovered_, {}));
+    if (Control* control = std::exchange(focus_, nullptr)) Focus(*control);
+}
+
+void Form::Uncover(const RECT& area) {
+    if (IsArranging())
+        UnionRect(&uncovered_, &uncovered_, &area);
+    else
+        RedrawWindow(hwnd_, &area, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+void Form::Focus(Control& control) {
+    if (IsArranging())
+        focus_ = &control;
+    else
+        SendMessageW(hwnd_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control.Handle()), TRUE);
 }
 
 Control* Form::ControlOf(HWND window) const {

@@ -37,6 +37,20 @@ class Form {
     void ShowModal(HWND owner);
     void Hide();
 
+    // While one lives, places, order and visibility of the form's controls and the focus are only noted, and
+    // nothing is painted. At the end of the outermost one the windows get them all, and `area` (pixels) is
+    // painted anew.
+    class Arrangement {
+      public:
+        Arrangement(Form& form, const RECT& area) : form_(form) { form_.BeginArrangement(area); }
+        Arrangement(const Arrangement&) = delete;
+        Arrangement& operator=(const Arrangement&) = delete;
+        ~Arrangement() { form_.EndArrangement(); }
+
+      private:
+        Form& form_;
+    };
+
     // Makes `button` the one that Enter presses; only this button is drawn as the default one.
     void DefaultButton(Control& button);
 
@@ -64,12 +78,24 @@ class Form {
     void AddToolTips();
     void SetToolTip(Control& control);
 
+    bool IsArranging() const { return arrangements_ > 0; }
+    void BeginArrangement(const RECT& area);
+    void EndArrangement();
+    void Note(Control& control);    // has changed during an arrangement
+    void Uncover(const RECT& area); // to be painted, children too
+    void Focus(Control& control);
+
     HWND hwnd_ = nullptr;
     HWND toolTips_ = nullptr;
     HWND owner_ = nullptr; // while shown modally
     HFONT defaultFont_ = nullptr;
     int background_ = COLOR_WINDOW;
     std::vector<Control*> controls_;
+    int arrangements_ = 0;
+    bool isUnpainted_ = false;    // painting is switched off
+    std::vector<Control*> noted_; // in the order of their last change
+    Control* focus_ = nullptr;    // noted
+    RECT uncovered_{};
 };
 
 // Thrown by EndMessageLoop() so that nothing after it runs in the handler; the form's edge drops it.

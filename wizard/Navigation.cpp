@@ -116,6 +116,7 @@ void frmWizard::LeavePage() {
 }
 
 void frmWizard::ShowPage() {
+    const Arrangement arrangement(*this, PageArea()); // half a page is never seen
     cmdBack.Enabled(PageNo != 1);
     pool.ClearPage(txtInfo);
     ResetInfo(txtInfo);

@@ -94,7 +94,7 @@ void frmWizard::BindFrame() {
                     layout::kHeaderHeight - layout::kLineWidth);
     lblStep.Bind(*this, kStepId, L"Static", SS_RIGHT | SS_NOPREFIX);
     lblStep.Place(layout::kStepLeft, 210_tw, layout::kStepWidth, layout::kPromptHeight);
-    txtInfo.Bind(*this, kInfoId, win::RichText::kClassName, win::RichText::kStyle | WS_GROUP);
+    txtInfo.Bind(*this, kInfoId, win::RichText::kClassName, (win::RichText::kStyle & ~WS_VSCROLL) | WS_GROUP);
     txtInfo.Place(layout::kTextLeft - layout::kTextInset, layout::kTextTop, layout::kTextWidth,
                   layout::kTextHeight);
     picMain.Bind(*this, kMainId, L"Static", SS_LEFT);
@@ -238,16 +238,20 @@ void frmWizard::WriteHeading(std::wstring_view heading) {
 
 void frmWizard::WriteInfo(std::wstring_view text) {
     constexpr win::Twips kTallest = layout::kContentBottom - layout::kTextTop;
-    txtInfo.Send(WM_SETREDRAW, FALSE);
-    txtInfo.Height(kTallest);
+    const Arrangement arrangement(*this, PageArea());
     txtInfo.SetText(text);
     FormatInfo(txtInfo);
     txtInfo.ScrollToTop();
-    const win::Twips needed = std::min(txtInfo.TextHeight(), kTallest);
-    txtInfo.Send(WM_SETREDRAW, TRUE);
-    // With redrawing still off the form would not repaint what the shorter text area uncovers.
-    txtInfo.Height(needed);
-    txtInfo.Repaint();
+    const win::Twips needed = txtInfo.TextHeight();
+    txtInfo.ScrollBar(needed > kTallest);
+    txtInfo.Height(std::min(needed, kTallest));
+}
+
+RECT frmWizard::PageArea() const {
+    RECT area{};
+    GetClientRect(Hwnd(), &area);
+    area.left = win::Px(layout::kColumnWidth);
+    return area;
 }
 
 LRESULT frmWizard::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -89,6 +89,7 @@ class frmWizard : public win::Form {
     void MoveToItsPlace();
     void CleanRunOnce();
     void WriteStartUpKeys();
+    RECT PageArea() const; // what a page may change: all but the pictures at the left
     void PaintBackground(HDC dc);
     void SkipToNextPage();
     void KeepProgress();
