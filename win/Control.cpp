@@ -60,10 +60,10 @@ void Control::Changed() {
         Settle();
 }
 
-// One call for place, order and visibility: each by itself would cost as much as all together. What is
-// hidden has neither place nor order; it gets them when it is shown.
+// One call for place, order and visibility: each by itself would cost as much as all together. What a page
+// leaves hidden gets its place and order when it is shown.
 void Control::Settle() {
-    if (!visible_ && !isShown_) return;
+    if (!visible_ && !isShown_ && (!hwnd_ || form_->IsArranging())) return;
     const HWND window = Handle();
     const RECT old = std::exchange(area_, Area());
     const bool wasShown = std::exchange(isShown_, visible_);
