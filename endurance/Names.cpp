@@ -2,48 +2,17 @@
 // or just one regular file of just that name, and nothing anywhere else.
 #include "endurance/BadText.h"
 #include "endurance/Soak.h"
+#include "endurance/Tree.h"
 #include "endurance/Walker.h"
 
 #include "tests/support/DemoSuite.h"
 
 #include <algorithm>
-#include <set>
 
 namespace {
 
 constexpr std::size_t kLongestPath = 259;
 constexpr std::size_t kFileSize = 5449;
-
-// Every file and folder below `folder`, with size.
-void AddTree(const std::wstring& folder, std::set<std::wstring>& tree) {
-    WIN32_FIND_DATAW found{};
-    const HANDLE search = FindFirstFileW((folder + L"*").c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) return;
-    do {
-        const std::wstring name = found.cFileName;
-        if (name == L"." || name == L"..") continue;
-        const bool isFolder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-        tree.insert(folder + name + (isFolder ? L"\\" : L"|" + std::to_wstring(found.nFileSizeLow)));
-        if (isFolder) AddTree(folder + name + L"\\", tree);
-    } while (FindNextFileW(search, &found));
-    FindClose(search);
-}
-
-std::set<std::wstring> Tree(const std::wstring& folder) {
-    std::set<std::wstring> tree;
-    AddTree(folder, tree);
-    return tree;
-}
-
-// What is only in `after`, or has another size there; what has gone carries a "-".
-std::vector<std::wstring> Changes(const std::set<std::wstring>& before, const std::set<std::wstring>& after) {
-    std::vector<std::wstring> changes;
-    std::set_difference(after.begin(), after.end(), before.begin(), before.end(),
-                        std::back_inserter(changes));
-    for (const std::wstring& entry : before)
-        if (!after.contains(entry)) changes.push_back(L"-" + entry);
-    return changes;
-}
 
 std::wstring Shown(const std::wstring& text) {
     std::wstring shown;
@@ -71,27 +40,11 @@ std::vector<BadText> AllNames(std::size_t longest) {
     return names;
 }
 
-// Creates the configuration on the name page; the message when it was refused, "" when it was not.
-std::wstring Create(Walker& walker) {
-    Journey tried;
-    for (HWND child : ChildrenOf(walker.Main()))
-        if (ClassOf(child) == L"Edit")
-            Ask(child, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(walker.name.c_str()));
-    walker.Press(walker.Next());
-    std::wstring message;
-    while (walker.WaitUntilReady()) {
-        HWND modal = walker.Modal();
-        if (!modal) break;
-        message += walker.AnswerModal(modal);
-    }
-    return message;
-}
-
 void Try(Tally& tally, const DemoSuite& suite, Walker& walker, const BadText& name) {
     const std::wstring shown = Shown(name.text);
     walker.name = name.text;
     const auto before = Tree(suite.Folder());
-    const std::wstring message = Create(walker);
+    const std::wstring message = walker.CreateConfiguration();
     const auto changes = Changes(before, Tree(suite.Folder()));
     const bool created = walker.Heading() == L"Finished";
     if (created) {

@@ -22,6 +22,14 @@ struct Check {
 constexpr Check kChecks[] = {
     {"names",    CheckNames},
     {"faults",   CheckFaults},
+    {"ini",      CheckSettingsFile},
+    {"registry", CheckRegistry},
+    {"folder",   CheckFolder},
+    {"limit",    CheckFileLimit},
+    {"kills",    CheckKills},
+    {"windows",  CheckWindows},
+    {"copies",   CheckTwoCopies},
+    {"planted",  CheckPlanted},
 };
 // clang-format on
 

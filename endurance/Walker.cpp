@@ -143,6 +143,30 @@ bool Walker::WaitUntilReady() {
     return false;
 }
 
+void Walker::TypeName() const {
+    for (HWND child : ChildrenOf(main_))
+        if (ClassOf(child) == L"Edit") Ask(child, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
+}
+
+std::wstring Walker::CreateConfiguration() {
+    TypeName();
+    Press(Next());
+    std::wstring told;
+    while (WaitUntilReady()) {
+        HWND modal = Modal();
+        if (!modal) break;
+        told += AnswerModal(modal);
+    }
+    return told;
+}
+
+void Walker::Close() {
+    SendNotifyMessageW(main_, WM_CLOSE, 0, 0);
+    while (WaitUntilReady())
+        if (HWND modal = Modal()) AnswerModal(modal);
+    wizard_.WaitForExit();
+}
+
 void Walker::LeavePage(Journey& journey) {
     const std::wstring heading = Heading();
     visits_ = heading == lastPage_ ? visits_ + 1 : 1;
@@ -151,8 +175,7 @@ void Walker::LeavePage(Journey& journey) {
     if (heading == L"Configuration Name") {
         // A second refusal will not be the last one: this page may be closed without a question.
         if (visits_ > 2) return static_cast<void>(SendNotifyMessageW(main_, WM_CLOSE, 0, 0));
-        for (HWND child : ChildrenOf(main_))
-            if (ClassOf(child) == L"Edit") Ask(child, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
+        TypeName();
     }
     if (onPage) onPage(heading);
     if (visits_ > kMostVisits) throw std::runtime_error("cannot leave the page " + Utf8(heading));
@@ -166,7 +189,7 @@ Journey Walker::Walk() {
     try {
         while (WaitUntilReady()) {
             if (HWND modal = Modal()) {
-                const bool box = ClassOf(modal) == L"#32770";
+                const bool box = ClassOf(modal) == L"#32770" && GetDlgItem(modal, kBoxTextId);
                 const std::wstring text = AnswerModal(modal);
                 if (box) journey.messages.push_back(text);
                 if (box && !IsKnown(text)) journey.trouble = L"an unexpected message: " + text;
@@ -184,4 +207,9 @@ Journey Walker::Walk() {
         journey.trouble = std::wstring(what.begin(), what.end());
     }
     return journey;
+}
+
+Journey WalkWhole(const DemoSuite& suite, const wchar_t* arguments) {
+    const WizardDriver wizard(suite, arguments, WizardDriver::Wait::No);
+    return Walker(wizard).Walk();
 }

@@ -29,6 +29,12 @@ class Walker {
     // Ends when the wizard has ended, when `stopAt` is shown or at the first trouble.
     Journey Walk();
 
+    void TypeName() const; // on the name page
+    // Presses Create on the name page; what was told then, "" when the configuration was made.
+    std::wstring CreateConfiguration();
+    // Closes the wizard where it stands, "Yes" to the question.
+    void Close();
+
     // One step of the above, for those who drive by hand: a click that is through when this returns, except
     // for a window that it opened.
     void Press(HWND button) const;
@@ -52,6 +58,10 @@ class Walker {
     std::wstring lastPage_;
     int visits_ = 0; // of the page shown, one after the other
 };
+
+// A whole run of a suite's wizard, from its start to its end.
+class DemoSuite;
+Journey WalkWhole(const DemoSuite& suite, const wchar_t* arguments);
 
 // Windows and controls in their order, visible ones only.
 std::vector<HWND> WindowsOfProcess(DWORD process);
