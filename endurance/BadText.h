@@ -6,7 +6,9 @@
 #include <string>
 #include <vector>
 
-enum class As { File, Refused }; // what a name of that text has to become
+// What a name of that text has to become, where kTakenNames exist.
+enum class As { File, Refused };
+inline constexpr const wchar_t* kTakenNames[] = {L"Mixed Case", L"\x00DC\x00F6\x00DF"};
 
 struct BadText {
     std::wstring text;

@@ -68,7 +68,7 @@ void RunAll(Tally& tally, Scene& scene) {
     for (std::string name; std::getline(log, name);)
         scene.calls.push_back(name);
     SetEnvironmentVariableW(L"VWIZARD_FAIL_LOG", nullptr);
-    const std::size_t step = tally.Quick() ? std::max<std::size_t>(1, scene.calls.size() / 6) : 1;
+    const std::size_t step = tally.Quick() ? std::max<std::size_t>(1, scene.calls.size() / 3) : 1;
     for (std::size_t call = 1 + tally.Seed() % step; call <= scene.calls.size(); call += step)
         for (const wchar_t* after : {L"", L"+"}) {
             const std::string& name = scene.calls[call - 1];

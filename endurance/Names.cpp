@@ -74,6 +74,8 @@ bool DevicesUntouched() {
 
 void CheckNames(Tally& tally) {
     const DemoSuite suite;
+    for (const wchar_t* name : kTakenNames)
+        WriteFileBytes(suite.Settings() + name + L".DCP", "taken");
     const std::size_t longest = kLongestPath - suite.Settings().size() - 4;
     const WizardDriver wizard(suite, L"/NDW");
     Walker walker(wizard);
