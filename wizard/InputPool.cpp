@@ -117,7 +117,10 @@ win::TextBox& InputColumn::TextBox(std::size_t index, std::wstring_view text, in
 
 win::ListBox& InputColumn::List(std::size_t index, win::Twips height) {
     auto& list = form_.pool.lstUserInput[index];
-    Put(list, width_, height, layout::kGapBetweenGroups);
+    const int edges = GetSystemMetrics(SM_CYEDGE) * 2;
+    const int line = static_cast<int>(list.Send(LB_GETITEMHEIGHT));
+    const int lines = (win::Px(height) - edges) / line;
+    Put(list, width_, win::Tw(lines * line + edges), layout::kGapBetweenGroups);
     return list;
 }
 

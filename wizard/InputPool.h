@@ -54,7 +54,7 @@ class InputColumn {
     win::Button& Option(std::size_t index, std::wstring_view caption, bool selected);
     win::Button& Check(std::size_t index, std::wstring_view caption, bool checked);
     win::TextBox& TextBox(std::size_t index, std::wstring_view text, int limit); // limit in characters
-    win::ListBox& List(std::size_t index, win::Twips height);
+    win::ListBox& List(std::size_t index, win::Twips height);                    // as many whole lines as fit
     win::ComboBox& DropDown();
     win::Link& Link(std::size_t index, std::wstring_view caption);
 
