@@ -192,6 +192,7 @@ int wmain(int count, wchar_t** words) {
         const bool plain = !word.empty() && word.find(L' ') == std::wstring::npos;
         arguments += L' ' + (plain ? word : L'"' + word + L'"');
     }
+    SetCursorPos(0, 0); // a control under the mouse may look different
     Tour tour(words[2], words[1], arguments);
     return (name.empty() ? tour.Run() : tour.RunOne(name)) ? 0 : 1;
 }
