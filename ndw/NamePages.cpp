@@ -7,9 +7,13 @@
 #include "ndw/NdwPages.h"
 #include "wizard/frmWizard.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr int kNameLimit = 250; // characters; a path holds 259
+constexpr win::Twips kTallestFinalText = layout::kContentBottom - layout::kTextTop - layout::kGapAfterText -
+                                         (layout::kLinkHeight + layout::kGapBetween) * 2;
 
 } // namespace
 
@@ -71,6 +75,8 @@ void PageNdwFinal(frmWizard& form) {
     form.WriteInfo(L"The configuration <b>" + form.ConfigName +
                    L"</b> has been created.\r\n\r\nIt is stored in the file " +
                    ConfigurationFile(form.ConfigName) + L"\r\n\r\n" + next);
+    // With a name of very many letters the text scrolls, so that the links keep their place.
+    form.txtInfo.Height(std::min(form.txtInfo.Height(), kTallestFinalText));
     InputColumn column(form);
     column.Link(0, L"Open in Varnel DNC Configuration (VConfig)");
     column.Link(1, L"Technical notes");

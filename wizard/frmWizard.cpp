@@ -88,8 +88,7 @@ frmWizard::frmWizard(const PageBook& book, bool configAllowed)
 void frmWizard::BindFrame() {
     picHeader.Bind(*this, kHeaderId, L"Static", SS_OWNERDRAW | SS_NOTIFY);
     // Only one of the modes counts steps beside the heading.
-    const win::Twips headingRight =
-        startUp.WizardMode == kNewDevice ? layout::kStepLeft : layout::kWindowWidth;
+    const win::Twips headingRight = startUp.WizardMode == kNewDevice ? layout::kStepLeft : layout::kTextRight;
     picHeader.Place(layout::kColumnWidth, 0_tw, headingRight - layout::kColumnWidth,
                     layout::kHeaderHeight - layout::kLineWidth);
     lblStep.Bind(*this, kStepId, L"Static", SS_RIGHT | SS_NOPREFIX);
