@@ -1,0 +1,184 @@
+// Measures every page of both wizards, at the resolution of the running process (./test repeats it at
+// others): nothing overlaps, nothing leaves its place, no text is cut.
+
+#include "wizard/Layout.h"
+#include "app/StartUp.h"
+#include "ndw/NdwPages.h"
+#include "tests/support/DemoSuite.h"
+#include "tests/support/FormUnderTest.h"
+#include "win/Fonts.h"
+#include "win/Screen.h"
+#include "wizard/PermissionPage.h"
+
+#include <gtest/gtest.h>
+
+#include <objbase.h>
+
+#include <algorithm>
+
+namespace {
+
+using namespace win::literals;
+
+RECT PlaceOf(HWND control) {
+    RECT place{};
+    GetWindowRect(control, &place);
+    MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&place), 2);
+    return place;
+}
+
+std::string Name(HWND control) {
+    const RECT place = PlaceOf(control);
+    return Utf8(ClassOf(control) + L" \"" + win::WindowText(control).substr(0, 40) + L"\" at ") +
+           std::to_string(place.left) + "," + std::to_string(place.top) + " to " +
+           std::to_string(place.right) + "," + std::to_string(place.bottom);
+}
+
+// Of `text` in the control's font, lines broken at `width`; "&" marks access keys where `marks` says so.
+// A rich-text control does not tell its font.
+SIZE Extent(HWND control, const std::wstring& text, bool marks, int width = 10000) {
+    const HDC dc = GetDC(control);
+    const auto font = reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0));
+    const HGDIOBJ old = SelectObject(dc, font ? font : win::FontFor(win::FontUse::Body));
+    RECT area{0, 0, width, 0};
+    DrawTextW(dc, text.c_str(), -1, &area, DT_CALCRECT | DT_WORDBREAK | (marks ? 0u : DT_NOPREFIX));
+    SelectObject(dc, old);
+    ReleaseDC(control, dc);
+    return {area.right, area.bottom};
+}
+
+int WidestItem(HWND control, UINT count, UINT length, UINT get) {
+    int widest = 0;
+    for (LRESULT i = 0; i < SendMessageW(control, count, 0, 0); ++i) {
+        const auto index = static_cast<WPARAM>(i);
+        std::wstring item(static_cast<std::size_t>(SendMessageW(control, length, index, 0)) + 1, L'\0');
+        SendMessageW(control, get, index, reinterpret_cast<LPARAM>(item.data()));
+        widest = std::max(widest, static_cast<int>(Extent(control, item.c_str(), false).cx));
+    }
+    return widest;
+}
+
+// The room that a control's whole text needs, in pixels.
+SIZE ButtonNeeds(HWND control) {
+    const LONG type = GetWindowLongW(control, GWL_STYLE) & BS_TYPEMASK;
+    const bool link = type == BS_OWNERDRAW;
+    const bool push = type == BS_PUSHBUTTON || type == BS_DEFPUSHBUTTON;
+    SIZE size = Extent(control, win::WindowText(control), !link);
+    size.cx += link ? 0 : push ? win::Px({120}) : GetSystemMetrics(SM_CXMENUCHECK) + win::Px({60});
+    size.cy += push ? win::Px({90}) : 0;
+    return size;
+}
+
+SIZE RichTextNeeds(HWND control) {
+    const int last = GetWindowTextLengthW(control);
+    POINTL place{};
+    SendMessageW(control, EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&place), last);
+    return {0, place.y + Extent(control, L"Xg", false).cy};
+}
+
+SIZE TextNeeds(HWND control, const RECT& client) {
+    const std::wstring kind = ClassOf(control);
+    const int edge = 2 * GetSystemMetrics(SM_CXEDGE);
+    const int bar = GetSystemMetrics(SM_CXVSCROLL) + edge;
+    if (kind == L"Button") return ButtonNeeds(control);
+    if (kind == L"ListBox") return {WidestItem(control, LB_GETCOUNT, LB_GETTEXTLEN, LB_GETTEXT) + bar, 0};
+    if (kind == L"ComboBox")
+        return {WidestItem(control, CB_GETCOUNT, CB_GETLBTEXTLEN, CB_GETLBTEXT) + bar + edge, 0};
+    if (kind == L"Edit") return {0, Extent(control, L"Xg", false).cy};
+    if (kind == win::RichText::kClassName) return RichTextNeeds(control);
+    if ((GetWindowLongW(control, GWL_STYLE) & SS_TYPEMASK) == SS_OWNERDRAW) return {};
+    return Extent(control, win::WindowText(control), true, client.right);
+}
+
+void ExpectTextFits(HWND control) {
+    RECT client{};
+    GetClientRect(control, &client);
+    const SIZE needs = TextNeeds(control, client);
+    EXPECT_LE(needs.cx, client.right) << Name(control);
+    EXPECT_LE(needs.cy, client.bottom) << Name(control);
+}
+
+void ExpectHeadingFits(win::Label& header) {
+    const HFONT usual = reinterpret_cast<HFONT>(header.Send(WM_GETFONT));
+    header.Send(WM_SETFONT, reinterpret_cast<WPARAM>(win::FontFor(win::FontUse::Heading)));
+    const SIZE size = Extent(header.Handle(), header.Text(), false);
+    header.Send(WM_SETFONT, reinterpret_cast<WPARAM>(usual));
+    const RECT place = PlaceOf(header.Handle());
+    EXPECT_LE(win::Px(layout::kHeadingLeft) + size.cx, place.right - place.left) << Utf8(header.Text());
+    EXPECT_LE(win::Px(layout::kHeadingTop) + size.cy, place.bottom) << Utf8(header.Text());
+}
+
+void ExpectInPlace(HWND control, const RECT& client) {
+    const RECT place = PlaceOf(control);
+    const bool inRow = place.top >= win::Px(layout::kRowTop);
+    EXPECT_TRUE(place.left >= 0 && place.top >= 0 && place.right <= client.right &&
+                place.bottom <= (inRow ? client.bottom : win::Px(layout::kRowTop)))
+        << Name(control);
+}
+
+void ExpectPage(FormUnderTest& test, bool scrolls = false) {
+    const std::vector<HWND> controls = test.VisibleControls();
+    RECT client{};
+    GetClientRect(test.form.Hwnd(), &client);
+    ExpectHeadingFits(test.form.picHeader);
+    for (auto control = controls.begin(); control != controls.end(); ++control) {
+        ExpectInPlace(*control, client);
+        if (!scrolls || ClassOf(*control) != win::RichText::kClassName) ExpectTextFits(*control);
+        const RECT place = PlaceOf(*control);
+        for (auto other = controls.begin(); other != control; ++other) {
+            const RECT second = PlaceOf(*other);
+            RECT common{};
+            EXPECT_FALSE(IntersectRect(&common, &place, &second))
+                << Name(*control) << "\nand " << Name(*other);
+        }
+    }
+}
+
+class Layout : public testing::TestWithParam<std::int16_t> {
+  protected:
+    Layout() { CoInitialize(nullptr); }
+    ~Layout() override {
+        startUp.ConfigLaunch = false;
+        CoUninitialize();
+    }
+};
+
+} // namespace
+
+TEST_P(Layout, EveryPage) {
+    FormUnderTest test(GetParam());
+    frmWizard& form = test.form;
+    form.picCncIcon.Top(600_tw); // as when the form is loaded
+    form.picScreenLogo.Top(form.picMain.Top() + 720_tw);
+    form.picLogo.Visible(true);
+    form.picVarnel.Visible(true);
+    (GetParam() == kNewDevice ? form.picCncIcon : form.picScreenLogo).Visible(true);
+    form.ConfigName = L"Machining centre 12 (hall 3)";
+    // The longest lines that the answers can make.
+    NdwAnswers& answers = ndwSession.answers;
+    answers.dataFormatIndex = kAsciiDataFormat;
+    answers.portIndex = 255;
+    answers.prefixChoice = 15;
+    answers.suffixChoice = 31;
+    answers.receiveNamingIndex = 7;
+    for (const bool launched : {false, true})
+        for (const std::int16_t page : test.Pages()) {
+            SCOPED_TRACE("mode " + std::to_string(GetParam()) + ", page " + std::to_string(page) + " at " +
+                         std::to_string(win::Dpi()) + " DPI");
+            startUp.ConfigLaunch = launched;
+            test.Show(page);
+            ExpectPage(test);
+        }
+    if (GetParam() == kNewDevice) {
+        SCOPED_TRACE("a very long name");
+        form.ConfigName = std::wstring(190, L'M');
+        test.Show(kNdwFinalPage);
+        ExpectPage(test, true);
+    }
+    SCOPED_TRACE("permission page");
+    form.pool.ClearPage(form.txtInfo);
+    PageConfigDisabled(form);
+    ExpectPage(test);
+}
+
+INSTANTIATE_TEST_SUITE_P(Modes, Layout, testing::Values(kFirstTimeSetup, kNewDevice));
