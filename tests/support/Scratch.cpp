@@ -54,6 +54,7 @@ ScratchFolder::ScratchFolder() {
     std::wstring temp(MAX_PATH, L'\0');
     temp.resize(GetTempPathW(MAX_PATH, temp.data()));
     path_ = temp + UniqueName() + L"\\";
+    Remove(path_); // left by a run that broke off
     if (!CreateDirectoryW(path_.c_str(), nullptr)) throw std::runtime_error("no scratch folder");
 }
 
