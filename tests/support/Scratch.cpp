@@ -4,7 +4,6 @@
 #include "app/Settings.h"
 #include "tests/support/DemoSuite.h"
 
-#include <atomic>
 #include <stdexcept>
 #include <thread>
 
@@ -113,9 +112,8 @@ void ScratchKey::SetWide(const std::wstring& name, DWORD type, std::wstring_view
 
 std::vector<Box> Answering(std::initializer_list<int> buttons, const std::function<void()>& act) {
     std::vector<Box> boxes;
-    std::atomic<bool> done = false;
-    std::thread answering([&] {
-        while (!done) {
+    std::jthread answering([&](const std::stop_token& over) {
+        while (!over.stop_requested()) {
             HWND box = nullptr;
             EnumWindows(FindBox, reinterpret_cast<LPARAM>(&box));
             const int wanted = boxes.size() < buttons.size() ? buttons.begin()[boxes.size()] : IDOK;
@@ -125,12 +123,12 @@ std::vector<Box> Answering(std::initializer_list<int> buttons, const std::functi
             HWND text = GetDlgItem(box, 65535);
             boxes.push_back({TextOf(box), text ? TextOf(text) : L""});
             PostMessageW(button, BM_CLICK, 0, 0);
-            while (!done && IsWindowVisible(box))
+            while (!over.stop_requested() && IsWindowVisible(box))
                 Sleep(1);
         }
     });
     act();
-    done = true;
+    answering.request_stop();
     answering.join();
     return boxes;
 }
