@@ -1,10 +1,13 @@
 #include "shell/frmIcons.h"
 
+#include "app/Com.h"
 #include "tests/support/DemoSuite.h"
 #include "tests/support/FormDriver.h"
 #include "tests/support/Scratch.h"
 
 #include <gtest/gtest.h>
+
+#include <oleacc.h>
 
 #include <map>
 #include <memory>
@@ -130,6 +133,20 @@ TEST(frmIcons, IsNotShownWithoutIcons) {
     }
 }
 
+// What a screen reader says of a control.
+std::wstring SpokenName(HWND control) {
+    UniqueInterface<IAccessible> object;
+    AccessibleObjectFromWindow(control, static_cast<DWORD>(OBJID_CLIENT), IID_IAccessible,
+                               reinterpret_cast<void**>(object.Out()));
+    VARIANT self{};
+    self.vt = VT_I4;
+    BSTR name = nullptr;
+    if (!object || object.Get()->get_accName(self, &name) != S_OK) return {};
+    const std::wstring spoken = name;
+    SysFreeString(name);
+    return spoken;
+}
+
 TEST(frmIcons, PassesOverDamagedFilesAndTakesAnyName) {
     const ScratchFolder folder;
     WriteFileBytes(folder.Path() + L"a.ico", "no picture");
@@ -147,6 +164,8 @@ TEST(frmIcons, PassesOverDamagedFilesAndTakesAnyName) {
         });
     EXPECT_EQ(seen, L"2 icons|\x00C4rmel|\x00C4rmel R&&D 1.x     |\x00C4rmel");
     EXPECT_EQ(form.Result(), L"R&D 1.x.ico");
+    EXPECT_EQ(SpokenName(form.imgIcon[0].Handle()), L"\x00C4rmel");
+    EXPECT_EQ(SpokenName(form.imgIcon[1].Handle()), L"R&D 1.x");
 }
 
 // What the list draws in the middle of a picture.
