@@ -142,7 +142,7 @@ std::wstring SpokenName(HWND control) {
     self.vt = VT_I4;
     BSTR name = nullptr;
     if (!object || object.Get()->get_accName(self, &name) != S_OK) return {};
-    const std::wstring spoken = name;
+    std::wstring spoken = name;
     SysFreeString(name);
     return spoken;
 }
@@ -210,8 +210,8 @@ TEST(frmIcons, HoldsItsOwnerMeanwhileAndForgetsItsLastResult) {
         EXPECT_TRUE(heldOwner);
         EXPECT_TRUE(IsWindowEnabled(owner));
         EXPECT_EQ(form.Result(), key == VK_RETURN ? L"VDNC32.ico" : L"");
-        EXPECT_NEAR((place.left + place.right) / 2, 550, 1);
-        EXPECT_NEAR((place.top + place.bottom) / 2, 400, 1);
+        EXPECT_NEAR(place.left + place.right, 2 * 550, 2);
+        EXPECT_NEAR(place.top + place.bottom, 2 * 400, 2);
     }
     DestroyWindow(owner);
 }

@@ -141,8 +141,8 @@ TEST(frmMessage, StandsOverItsOwnerAndHoldsIt) {
         EXPECT_LE(seen.place.right, area.right);
         EXPECT_LE(seen.place.bottom, area.bottom);
         if (at.left > 0 && at.left < area.right) {
-            EXPECT_NEAR((seen.place.left + seen.place.right) / 2, at.left + at.width / 2, 1);
-            EXPECT_NEAR((seen.place.top + seen.place.bottom) / 2, at.top + at.height / 2, 1);
+            EXPECT_NEAR(seen.place.left + seen.place.right, 2 * at.left + at.width, 2);
+            EXPECT_NEAR(seen.place.top + seen.place.bottom, 2 * at.top + at.height, 2);
         }
         DestroyWindow(owner);
     }
