@@ -63,7 +63,7 @@ std::wstring Browse(const std::wstring& start, const wchar_t* folder, const wcha
         const HWND dialog = GetAncestor(tree, GA_ROOT);
         PostMessageW(GetDlgItem(dialog, isSelected ? button : IDCANCEL), BM_CLICK, 0, 0);
     });
-    const std::wstring result = BrowseForFolder(start, nullptr, L"Select folder", kFlags);
+    std::wstring result = BrowseForFolder(start, nullptr, L"Select folder", kFlags);
     user.join();
     return result;
 }
