@@ -82,8 +82,11 @@ TEST(cShellLink, RefusesWithoutAWord) {
     EXPECT_TRUE(boxes.empty());
 }
 
+constexpr std::int32_t kDocumentsFolder = 5; // some versions return it with a backslash at its end
+
 TEST(cShellLink, FindsTheShellsFolders) {
-    for (const std::int32_t id : {kDesktopFolder, kStartMenuFolder, kApplicationDataFolder}) {
+    for (const std::int32_t id : {std::int32_t{kDesktopFolder}, std::int32_t{kStartMenuFolder},
+                                  std::int32_t{kApplicationDataFolder}, kDocumentsFolder}) {
         const auto path = cShellLink().GetSystemFolderPath(nullptr, id);
         ASSERT_TRUE(path) << id;
         EXPECT_TRUE(FolderExists(*path)) << id;
