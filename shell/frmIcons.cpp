@@ -107,13 +107,13 @@ void frmIcons::OpenForm(const std::wstring& folder, HWND owner) {
     icons_.emplace(folder, keys, win::Px(kIconSide));
     if (icons_->Count() == 0) return;
     LayOut();
+    ShowControls();
     MoveOver(owner);
     Show(OpenStrip(icons_->Count(), DefaultPosition(icons_->Keys())));
     imgIcon[static_cast<std::size_t>(*SelectedSlot(strip_) - 1)].Focus();
     ShowModal(owner);
 }
 
-// From top to bottom; the strip under the slots comes last, so that they lie in front of it.
 void frmIcons::LayOut() {
     const Twips barHeight = NeedsScrollBar(icons_->Count()) ? win::Tw(GetSystemMetrics(SM_CYHSCROLL)) : 0_tw;
     const Twips stripHeight = kSlot + barHeight + kEdge * 2;
@@ -129,22 +129,23 @@ void frmIcons::LayOut() {
     cmdOK.Place(right - kButtonWidth * 2 - kGap, buttonTop, kButtonWidth, kButtonHeight);
     cmdCancel.Place(right - kButtonWidth, buttonTop, kButtonWidth, kButtonHeight);
     picIcons.Place(kMargin, kMargin, kStripWidth, stripHeight);
-    for (ArrowButton& slot : imgIcon)
-        slot.Visible(true);
-    hScrollIcons.Visible(NeedsScrollBar(icons_->Count()));
-    for (win::Control* control :
-         {&static_cast<win::Control&>(lblIconName), &static_cast<win::Control&>(lblnIcons),
-          &static_cast<win::Control&>(cmdOK), &static_cast<win::Control&>(cmdCancel),
-          &static_cast<win::Control&>(picIcons)})
-        control->Visible(true);
-    cmdOK.Text(L"OK");
-    cmdCancel.Text(L"Cancel");
-    DefaultButton(cmdOK);
-
     RECT window{0, 0, win::Px(kClientWidth), win::Px(buttonTop + kButtonHeight + kMargin)};
     AdjustWindowRectEx(&window, kStyle, FALSE, kExtendedStyle);
     SetWindowPos(Hwnd(), nullptr, 0, 0, window.right - window.left, window.bottom - window.top,
                  SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+// The strip comes last, so that it lies behind its slots.
+void frmIcons::ShowControls() {
+    for (ArrowButton& slot : imgIcon)
+        slot.Visible(true);
+    hScrollIcons.Visible(NeedsScrollBar(icons_->Count()));
+    win::Control* const others[] = {&lblIconName, &lblnIcons, &cmdOK, &cmdCancel, &picIcons};
+    for (win::Control* control : others)
+        control->Visible(true);
+    cmdOK.Text(L"OK");
+    cmdCancel.Text(L"Cancel");
+    DefaultButton(cmdOK);
 }
 
 // In the middle of the owner, but whole on the screen.

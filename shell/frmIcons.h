@@ -55,6 +55,7 @@ class frmIcons : public win::Form {
   private:
     void BindControls();
     void LayOut();
+    void ShowControls();
     void MoveOver(HWND owner);
     void Show(const IconStrip& strip);
     void ShowScrollBar();
