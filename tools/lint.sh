@@ -18,7 +18,7 @@ check_cppcheck() {
     sources -not -path 'tests/*' | cppcheck --file-list=- --cppcheck-build-dir=build/cppcheck -j "$(nproc)" \
         --std=c++20 --platform=win32W --enable=warning,performance,portability --inline-suppr \
         --suppress=missingIncludeSystem --error-exitcode=1 --quiet -I . \
-        -DUNICODE -D_UNICODE -D_WIN32 -DWIN32_LEAN_AND_MEAN
+        -DUNICODE -D_UNICODE -D_WIN32 -DWIN32_LEAN_AND_MEAN -DSTDMETHODIMP=HRESULT '-DSTDMETHODIMP_(type)=type'
 }
 
 gcc=/usr/lib/gcc/i686-w64-mingw32/12-posix/include/c++
