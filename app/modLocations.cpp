@@ -6,7 +6,6 @@
 
 #include <windows.h>
 
-#include <objbase.h>
 #include <shlobj.h>
 
 ProgramLocations locations;
@@ -72,12 +71,10 @@ void InitLocations() {
     locations.IconsPath = FolderExists(icons) ? icons : locations.AppPath;
 }
 
+// The path is asked for directly: by way of an item list the shell would look at each folder above it.
 std::wstring GetSpecialFolder(int csidl) {
-    LPITEMIDLIST list = nullptr;
-    if (FAILED(SHGetSpecialFolderLocation(nullptr, csidl, &list))) return {};
     wchar_t path[MAX_PATH] = L"";
-    const bool found = SHGetPathFromIDListW(list, path) != FALSE;
-    CoTaskMemFree(list);
+    const bool found = SHGetFolderPathW(nullptr, csidl, nullptr, SHGFP_TYPE_CURRENT, path) == S_OK;
     return found && path[0] ? WithBackslash(path) : std::wstring();
 }
 
