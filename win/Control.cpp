@@ -29,10 +29,10 @@ HWND Control::Handle() {
     if (hwnd_) return hwnd_;
     area_ = Area();
     isShown_ = visible_ && !form_->IsArranging();
-    hwnd_ = CreateWindowExW(extendedStyle_, className_, L"", WS_CHILD | style_ | (isShown_ ? WS_VISIBLE : 0),
-                            area_.left, area_.top, area_.right - area_.left, area_.bottom - area_.top,
-                            form_->Hwnd(), reinterpret_cast<HMENU>(static_cast<INT_PTR>(id_)),
-                            GetModuleHandleW(nullptr), nullptr);
+    hwnd_ = CreateWindowExW(
+        extendedStyle_, className_, text_.c_str(), WS_CHILD | style_ | (isShown_ ? WS_VISIBLE : 0),
+        area_.left, area_.top, area_.right - area_.left, area_.bottom - area_.top, form_->Hwnd(),
+        reinterpret_cast<HMENU>(static_cast<INT_PTR>(id_)), GetModuleHandleW(nullptr), nullptr);
     SendMessageW(hwnd_, WM_SETFONT, reinterpret_cast<WPARAM>(Font()), FALSE);
     Made();
     return hwnd_;
@@ -83,10 +83,13 @@ void Control::Settle() {
 void Control::Enabled(bool enabled) { EnableWindow(Handle(), enabled); }
 
 void Control::Text(std::wstring_view text) {
-    if (Text() != text) SetWindowTextW(hwnd_, std::wstring(text).c_str());
+    if (!hwnd_)
+        text_ = text;
+    else if (Text() != text)
+        SetWindowTextW(hwnd_, std::wstring(text).c_str());
 }
 
-std::wstring Control::Text() { return WindowText(Handle()); }
+std::wstring Control::Text() { return hwnd_ ? WindowText(hwnd_) : text_; }
 
 void Control::ToolTip(std::wstring_view text) {
     if (toolTip_ == text) return;

@@ -1,8 +1,8 @@
 #pragma once
 
 // One child control of a form: a thin handle on a control of the system's own class. The window is made
-// when it is first needed (shown, filled or read), so that a form pays only for what its page uses;
-// until then place, visibility and tool tip are kept here. So they are while the form is being arranged
+// when it is first needed (shown or sent a message), so that a form pays only for what its page uses;
+// until then place, visibility, text and tool tip are kept here. So they are while the form is being arranged
 // (see Form::Arrangement). Positions and sizes are twips in the form's
 // client area. A control must not outlive its form's window.
 
@@ -94,6 +94,7 @@ class Control {
     HFONT font_ = nullptr;
     Twips left_{}, top_{}, width_{}, height_{};
     bool visible_ = false;
+    std::wstring text_; // until the window is made
     std::wstring toolTip_;
     Control* previous_ = nullptr; // to be put behind it
     bool isShown_ = false;        // isShown_ and area_: what the window has

@@ -18,8 +18,8 @@ namespace win {
 class RichText : public Control {
   public:
     // Style bits for Bind(); the class needs LoadRichText() first.
-    static constexpr DWORD kStyle =
-        ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL | ES_NOHIDESEL | WS_VSCROLL | WS_TABSTOP;
+    static constexpr DWORD kStyle = ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL | ES_NOHIDESEL |
+                                    ES_NOOLEDRAGDROP | WS_VSCROLL | WS_TABSTOP;
     static constexpr const wchar_t* kClassName = L"RichEdit20W";
 
     // Replaces the whole text and puts it into the control's font, black, neither bold nor bulleted.

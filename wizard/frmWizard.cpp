@@ -150,6 +150,8 @@ void frmWizard::BindButtons() {
         row.button->Place(layout::ButtonLeft(--fromRight), layout::kButtonTop, layout::kButtonWidth,
                           layout::kButtonHeight);
         row.button->Text(row.caption);
+        const bool isNeverShown = row.button == &cmdSkip && startUp.WizardMode == kNewDevice;
+        if (!isNeverShown) row.button->Handle(); // the order in which windows are made is the tab order
     }
     cmdSkip.ToolTip(L"Go on without this step");
     DefaultButton(cmdNext);
@@ -179,6 +181,8 @@ void frmWizard::Form_Load() {
 
     WriteStartUpKeys();
     ConfirmExit = true;
+    isLoading_ = false;
+    const Arrangement arrangement(*this, PageArea());
     for (std::size_t i = 0; i < picAppIcon.size(); ++i)
         picAppIcon[i].Place(1560_tw + 960_tw * static_cast<int>(i), layout::kAppIconTop, 480_tw, 480_tw);
     cmdSkip.Visible(startUp.WizardMode == kFirstTimeSetup);
@@ -258,6 +262,11 @@ LRESULT frmWizard::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_ERASEBKGND:
         PaintBackground(reinterpret_cast<HDC>(wParam));
         return TRUE;
+    case WM_ACTIVATE:
+    case WM_SETFOCUS: // while loading the text would get the focus, and draw its caret at every step
+        if (!isLoading_) break;
+        if (message == WM_ACTIVATE && LOWORD(wParam) != WA_INACTIVE) SetFocus(Hwnd());
+        return 0;
     case WM_CLOSE:
         Unload();
         return 0;
@@ -270,8 +279,9 @@ LRESULT frmWizard::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         RedrawWindow(Hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
         return 0;
     default:
-        return Form::OnMessage(message, wParam, lParam);
+        break;
     }
+    return Form::OnMessage(message, wParam, lParam);
 }
 
 void frmWizard::PaintBackground(HDC dc) {

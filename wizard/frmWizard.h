@@ -100,6 +100,7 @@ class frmWizard : public win::Form {
     const PageBook& book_;
     win::UniqueBrush columnBrush_;
     std::optional<win::IconPicture> largeIcon_, smallIcon_; // of the mode
+    bool isLoading_ = true;
     bool nextBusy_ = false; // one for each handler: a click that arrives while it runs is dropped
     bool backBusy_ = false;
     bool skipBusy_ = false;
