@@ -6,19 +6,7 @@
 #include "ftw/Companions.h"
 #include "ftw/FtwPages.h"
 #include "ftw/SampleImport.h"
-#include "win/Screen.h"
 #include "wizard/frmWizard.h"
-
-namespace {
-
-// The most that fits without a line that is cut.
-win::Twips HeightOfWholeLines(win::ListBox& list, win::Twips available) {
-    const int border = 2 * GetSystemMetrics(SM_CYEDGE);
-    const int line = static_cast<int>(list.Send(LB_GETITEMHEIGHT));
-    return win::Tw((win::Px(available) - border) / line * line + border);
-}
-
-} // namespace
 
 void PageFtwAboutConfig(frmWizard& form) {
     form.WriteHeading(L"Configure Communication Options");
@@ -41,8 +29,7 @@ void PageFtwImportSample(frmWizard& form) {
     InputColumn column(form);
     column.Width(layout::kTextWidth);
     column.Prompt(0, L"Sample &configurations");
-    auto& list = form.pool.lstUserInput[0];
-    column.List(0, HeightOfWholeLines(list, layout::kContentBottom - layout::kGapBetween - column.Top()));
+    auto& list = column.List(0, layout::kContentBottom - layout::kGapBetween - column.Top());
     list.Clear();
     for (const std::wstring& entry : SampleEntries(ListFiles(locations.SamplesPath, L".dcp")))
         list.Add(entry);
