@@ -90,12 +90,16 @@ WizardDriver::WizardDriver(const DemoSuite& suite, const wchar_t* arguments, Wai
     if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
                         &process_))
         throw std::runtime_error("cannot start " + Utf8(line));
-    if (wait == Wait::No) return;
+    if (wait == Wait::Yes) WaitForOpening();
+}
+
+void WizardDriver::WaitForOpening() {
     Until(
         [this] {
             for (HWND window : WindowsOf(ProcessId()))
                 if (ClassOf(window).starts_with(L"VWizard")) window_ = window;
-            return window_ != nullptr && PageText() != L"Initializing..." && Has(L"Cancel");
+            return window_ != nullptr && PageText() != L"Initializing..." &&
+                   (Has(L"Cancel") || Has(L"&Close"));
         },
         L"the wizard's window");
 }

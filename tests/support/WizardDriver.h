@@ -16,6 +16,7 @@ class WizardDriver {
     // Starts the wizard and waits for its window. With `Wait::No` it may end without one (a second copy).
     enum class Wait { Yes, No };
     explicit WizardDriver(const DemoSuite& suite, const wchar_t* arguments = L"", Wait wait = Wait::Yes);
+    void WaitForOpening(); // for a wizard started with `Wait::No` that opens its window after all
     ~WizardDriver();
     WizardDriver(const WizardDriver&) = delete;
     WizardDriver& operator=(const WizardDriver&) = delete;

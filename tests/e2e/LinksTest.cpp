@@ -1,11 +1,14 @@
-// Every link of the First-Time Setup Wizard, those that no page shows included: what is started, and how.
+// Every link of both wizards, those that no page shows included: what is started, and how.
 
 #include "app/modLocations.h"
 #include "ftw/FtwPages.h"
+#include "ndw/NdwPages.h"
 #include "tests/support/DemoSuite.h"
 #include "wizard/frmWizard.h"
 
 #include <gtest/gtest.h>
+
+#include <span>
 
 namespace {
 
@@ -16,7 +19,7 @@ struct Link {
 };
 
 // clang-format off
-constexpr Link kLinks[] = {
+constexpr Link kFtwLinks[] = {
     { 7, 0, L"DocViewer.exe", L"\"?DocViewer.exe\" \"?QuickTour.chm\""},
     { 7, 1, L"VConfig.exe",   L"\"?VConfig.exe\" /Manager"},
     { 7, 2, L"VConfig.exe",   L"\"?VConfig.exe\" /Manager"},
@@ -41,6 +44,22 @@ constexpr Link kLinks[] = {
     {13, 2, nullptr,          L""},
     {16, 1, nullptr,          L""},
 };
+
+constexpr Link kNdwLinks[] = {
+    { 1, 0, L"DocViewer.exe", L"\"?DocViewer.exe\" \"?Varnel DNC Setup Reference.PDF\""},
+    { 1, 2, L"DocViewer.exe", L"\"?DocViewer.exe\" \"?Varnel DNC Setup Reference.PDF\""},
+    { 2, 0, L"DocViewer.exe", L"\"?DocViewer.exe\" \"?Linkcheck.chm\""},
+    { 2, 1, L"DocViewer.exe", L"\"?DocViewer.exe\" \"?Varnel DNC Setup Reference.pdf\""},
+    { 2, 2, L"VTerminal.exe", L"\"?VTerminal.exe\""},
+    { 9, 0, L"DocViewer.exe", L"\"?DocViewer.exe\" \"?CharCodes.chm\""},
+    {10, 1, L"DocViewer.exe", L"\"?DocViewer.exe\" \"?CharCodes.chm\""},
+    {17, 0, L"VConfig.exe",   L"\"?VConfig.exe\" Mill 3 \x00E4"},
+    {17, 1, L"DocViewer.exe", L"\"?DocViewer.exe\" \"?TechNotes.chm\""},
+    { 2, 3, nullptr,          L""},
+    { 3, 0, nullptr,          L""},
+    {16, 0, nullptr,          L""},
+    {17, 2, nullptr,          L""},
+};
 // clang-format on
 
 std::wstring InSuite(std::wstring text, const DemoSuite& suite) {
@@ -49,30 +68,30 @@ std::wstring InSuite(std::wstring text, const DemoSuite& suite) {
     return text;
 }
 
-} // namespace
-
-TEST(FtwLinks, EachStartsItsOwn) {
+// Follows each link with the suite's folder as the program's and the current one, as when the wizard runs.
+void ExpectStarts(const PageBook& book, std::span<const Link> links) {
     const DemoSuite suite;
     // The wizard itself is one of the programs: a stand-in for it, too.
     ASSERT_TRUE(CopyFileW((suite.Folder() + L"VConfig.exe").c_str(),
                           (suite.Folder() + L"VWizard.exe").c_str(), FALSE));
     const std::wstring programFolder = locations.AppPath;
     locations.AppPath = suite.Folder();
-    // The system looks for HH.exe in the program's own folder and then in the current one.
     wchar_t before[MAX_PATH] = L"";
     GetCurrentDirectoryW(MAX_PATH, before);
     SetCurrentDirectoryW(suite.Folder().c_str());
-    frmWizard form(FtwBook(), true);
+    frmWizard form(book, true);
+    form.ConfigName = L"Mill 3 \x00E4";
     std::size_t count = 0;
-    for (const Link& link : kLinks) {
+    for (const Link& link : links) {
         SCOPED_TRACE("page " + std::to_string(link.page) + ", link " + std::to_string(link.index));
         form.PageNo = link.page;
         const std::size_t earlier = link.program ? suite.Starts(link.program).size() : 0;
         form.lblHyperlink_Click(link.index);
         if (link.program) {
             const Start start = suite.WaitForStarts(link.program, earlier + 1).back();
-            EXPECT_EQ(start.commandLine, InSuite(link.commandLine, suite));
+            EXPECT_EQ(Utf8(start.commandLine), Utf8(InSuite(link.commandLine, suite)));
             EXPECT_EQ(start.show, SW_SHOWNORMAL);
+            EXPECT_EQ(start.folder + L"\\", suite.Folder());
             ++count;
         }
         EXPECT_EQ(suite.StartCount() + suite.Starts(L"VWizard.exe").size(), count);
@@ -80,3 +99,9 @@ TEST(FtwLinks, EachStartsItsOwn) {
     locations.AppPath = programFolder;
     SetCurrentDirectoryW(before);
 }
+
+} // namespace
+
+TEST(Links, FirstTimeSetupWizard) { ExpectStarts(FtwBook(), kFtwLinks); }
+
+TEST(Links, NewDeviceWizard) { ExpectStarts(NdwBook(), kNdwLinks); }
