@@ -23,9 +23,11 @@ std::wstring InvalidCharactersMessage() {
     return L"The name you specified contains one or more\r\nof the following invalid characters:\r\n" + list;
 }
 
-// This run's own file that could not be written whole may be tried again under its name.
-bool IsUsed(const std::wstring& path) {
-    return FileExists(path) && lstrcmpiW(path.c_str(), ndwSession.failedFile.c_str()) != 0;
+// This run's own file that could not be written whole may be tried again under its name. A device, which
+// the system lists as a file in every folder, is refused by its own words.
+bool IsUsed(const std::wstring& name, const std::wstring& path) {
+    return FileExists(path) && !IsReservedName(name) &&
+           lstrcmpiW(path.c_str(), ndwSession.failedFile.c_str()) != 0;
 }
 
 // What is wrong with a name, "" when nothing is. The last checks keep the file from going to a port or
@@ -33,7 +35,7 @@ bool IsUsed(const std::wstring& path) {
 std::wstring NameProblem(const std::wstring& name, const std::wstring& path) {
     if (name.empty()) return L"You must specify a valid name to continue.";
     if (!IsValidName(name)) return InvalidCharactersMessage() + kTryAgain;
-    if (IsUsed(path))
+    if (IsUsed(name, path))
         return std::wstring(L"The configuration name you specified is already used.") + kTryAgain;
     if (IsReservedName(name))
         return std::wstring(L"The name you specified is reserved by Windows for a device.") + kTryAgain;
