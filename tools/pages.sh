@@ -12,6 +12,7 @@ for dpi in 96 144; do
 done
 tools/tour.sh --contrast
 tools/tour.sh --contrast /NDW
+tools/tour.sh --contrast --windows
 mkdir -p docs/pages
 rm -f docs/pages/*.png
 cp build/pages/*.png docs/pages/
