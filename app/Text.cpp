@@ -36,6 +36,7 @@ std::wstring FromAnsi(std::string_view text) {
 }
 
 unsigned char ToAnsiByte(wchar_t character) {
+    if (character < 0x80) return static_cast<unsigned char>(character); // the same in every code page
     const std::string bytes = ToAnsi({&character, 1});
     return static_cast<unsigned char>(bytes.size() == 1 ? bytes[0] : '?');
 }
