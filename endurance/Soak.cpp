@@ -30,6 +30,8 @@ constexpr Check kChecks[] = {
     {"windows",  CheckWindows},
     {"copies",   CheckTwoCopies},
     {"planted",  CheckPlanted},
+    {"monkey",   CheckMonkey},
+    {"leaks",    CheckLeaks},
 };
 // clang-format on
 

@@ -46,3 +46,5 @@ void CheckKills(Tally& tally);
 void CheckWindows(Tally& tally);
 void CheckTwoCopies(Tally& tally);
 void CheckPlanted(Tally& tally);
+void CheckMonkey(Tally& tally);
+void CheckLeaks(Tally& tally);

@@ -7,8 +7,8 @@
 
 namespace {
 
-constexpr UINT kAnswerTime_ms = 10000;
-constexpr DWORD kPatience_ms = 20000;
+constexpr UINT kAnswerTime_ms = 30000;
+constexpr DWORD kPatience_ms = 60000;
 constexpr int kHeadingId = 120;
 constexpr int kBoxTextId = 65535;
 constexpr int kMostVisits = 4; // of one page without getting on
@@ -21,16 +21,12 @@ constexpr std::wstring_view kKnownMessages[] = {
     L"The name you specified ",
     L"You must specify a valid name to continue.",
     L"The file extension you specified is not valid.",
+    L"The character ",
     L"Import ",
     L"W A R N I N G",
     L"Complete all steps to ensure that Varnel DNC",
     L"You chose to restore a previously-saved set of",
 };
-
-bool IsKnown(std::wstring_view text) {
-    return std::any_of(std::begin(kKnownMessages), std::end(kKnownMessages),
-                       [&](std::wstring_view known) { return text.starts_with(known); });
-}
 
 BOOL CALLBACK Collect(HWND window, LPARAM data) {
     if (IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(data)->push_back(window);
@@ -38,6 +34,11 @@ BOOL CALLBACK Collect(HWND window, LPARAM data) {
 }
 
 } // namespace
+
+bool IsKnownMessage(std::wstring_view text) {
+    return std::any_of(std::begin(kKnownMessages), std::end(kKnownMessages),
+                       [&](std::wstring_view known) { return text.starts_with(known); });
+}
 
 bool Journey::Passed(std::wstring_view heading) const {
     return std::find(pages.begin(), pages.end(), heading) != pages.end();
@@ -192,7 +193,7 @@ Journey Walker::Walk() {
                 const bool box = ClassOf(modal) == L"#32770" && GetDlgItem(modal, kBoxTextId);
                 const std::wstring text = AnswerModal(modal);
                 if (box) journey.messages.push_back(text);
-                if (box && !IsKnown(text)) journey.trouble = L"an unexpected message: " + text;
+                if (box && !IsKnownMessage(text)) journey.trouble = L"an unexpected message: " + text;
                 if (!journey.trouble.empty()) return journey;
                 continue;
             }

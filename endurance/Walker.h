@@ -59,6 +59,9 @@ class Walker {
     int visits_ = 0; // of the page shown, one after the other
 };
 
+// Whether the program has a reason to show this text in a message box.
+bool IsKnownMessage(std::wstring_view text);
+
 // A whole run of a suite's wizard, from its start to its end.
 class DemoSuite;
 Journey WalkWhole(const DemoSuite& suite, const wchar_t* arguments);
@@ -68,5 +71,5 @@ std::vector<HWND> WindowsOfProcess(DWORD process);
 std::vector<HWND> ChildrenOf(HWND window);
 std::wstring ClassOf(HWND window);
 std::wstring TextOf(HWND window);
-// SendMessage to another process; throws when it does not answer within ten seconds.
+// SendMessage to another process; throws when it does not answer for long.
 DWORD_PTR Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
