@@ -20,7 +20,7 @@ struct Held {
     long memory = 0; // private, kB
 };
 
-constexpr long kMemoryNoise_kB = 256;
+constexpr long kMemoryNoise_kB = 1024;
 
 // Entries in use of the table of GDI objects that the process shares with the system.
 int GdiObjects(HANDLE process) {
@@ -203,8 +203,11 @@ void CheckLeaks(Tally& tally) {
         for (int i = 0; i < count; ++i)
             row.act(patient);
         const Held after = patient.Count();
-        const bool kept = after.gdi <= before.gdi && after.windows <= before.windows &&
-                          after.handles <= before.handles && after.memory <= before.memory + kMemoryNoise_kB;
+        // The system makes some things later than others, once; what leaks grows with every turn.
+        const int noise = std::min(count / 2 - 1, 20);
+        const bool kept = after.gdi <= before.gdi + noise && after.windows <= before.windows + noise &&
+                          after.handles <= before.handles + noise &&
+                          after.memory <= before.memory + kMemoryNoise_kB;
         tally.Expect(kept, row.what + Growth(before, after));
     }
 }

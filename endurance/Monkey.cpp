@@ -60,14 +60,24 @@ constexpr WORD kKeys[] = {
 };
 // clang-format on
 
+// A visible control of the wizard's window.
+struct Control {
+    HWND window;
+    std::wstring kind; // its class
+    DWORD type;        // of a button
+    bool IsInput() const {
+        if (kind == L"Edit" || kind == L"ListBox" || kind == L"ComboBox") return true;
+        return kind == L"Button" && type != BS_OWNERDRAW && type != BS_PUSHBUTTON && type != BS_DEFPUSHBUTTON;
+    }
+};
+
+BOOL CALLBACK CollectAny(HWND window, LPARAM data) {
+    reinterpret_cast<std::vector<HWND>*>(data)->push_back(window);
+    return TRUE;
+}
+
 // What a page shows: for each input its state, selection or text.
 using Shown = std::vector<std::pair<HWND, std::wstring>>;
-
-bool IsInput(HWND control, const std::wstring& kind) {
-    if (kind == L"Edit" || kind == L"ListBox" || kind == L"ComboBox") return true;
-    const auto type = static_cast<DWORD>(GetWindowLongW(control, GWL_STYLE)) & BS_TYPEMASK;
-    return kind == L"Button" && type != BS_OWNERDRAW && type != BS_PUSHBUTTON && type != BS_DEFPUSHBUTTON;
-}
 
 class Monkey {
   public:
@@ -119,6 +129,7 @@ class Monkey {
         wizard_ = std::make_unique<WizardDriver>(suite_, arguments_, WizardDriver::Wait::No);
         walker_ = std::make_unique<Walker>(*wizard_);
         kept_.clear();
+        kinds_.clear();
         unknown_ = false;
         heading_.clear();
         Did(L"start");
@@ -129,6 +140,7 @@ class Monkey {
         if (!walker_->WaitUntilReady()) return {};
         if (HWND modal = walker_->Modal()) return AnswerAnyhow(modal);
         const std::wstring before = walker_->Heading();
+        if (heading_.empty()) Look(); // a fresh start
         const Shown shown = WhatIsShown();
         DoSomething();
         DWORD_PTR result = 0;
@@ -164,17 +176,31 @@ class Monkey {
         return Arrived(pending_.first, pending_.second);
     }
 
+    // Looks at the whole window once; asking for each control again and again would take most of the time.
+    void Look() {
+        std::vector<HWND> children;
+        EnumChildWindows(walker_->Main(), CollectAny, reinterpret_cast<LPARAM>(&children));
+        controls_.clear();
+        for (HWND child : children) {
+            const auto style = static_cast<DWORD>(GetWindowLongW(child, GWL_STYLE));
+            if (!(style & WS_VISIBLE)) continue;
+            std::wstring& kind = kinds_[child];
+            if (kind.empty()) kind = ClassOf(child);
+            controls_.push_back({child, kind, style & BS_TYPEMASK});
+        }
+    }
+
     Shown WhatIsShown() const {
         Shown shown;
-        for (HWND child : ChildrenOf(walker_->Main())) {
-            const std::wstring kind = ClassOf(child);
-            if (!IsInput(child, kind)) continue;
-            std::wstring value = kind == L"Edit"     ? TextOf(child)
-                                 : kind == L"Button" ? std::to_wstring(Ask(child, BM_GETCHECK))
-                                 : kind == L"ListBox"
-                                     ? std::to_wstring(static_cast<int>(Ask(child, LB_GETCURSEL)))
-                                     : std::to_wstring(static_cast<int>(Ask(child, CB_GETCURSEL)));
-            shown.emplace_back(child, value);
+        for (const Control& control : controls_) {
+            if (!control.IsInput()) continue;
+            const UINT question = control.kind == L"Button"    ? BM_GETCHECK
+                                  : control.kind == L"ListBox" ? LB_GETCURSEL
+                                                               : CB_GETCURSEL;
+            shown.emplace_back(control.window,
+                               control.kind == L"Edit"
+                                   ? TextOf(control.window)
+                                   : std::to_wstring(static_cast<int>(Ask(control.window, question))));
         }
         return shown;
     }
@@ -186,13 +212,11 @@ class Monkey {
         GetGUIThreadInfo(GetWindowThreadProcessId(main, nullptr), &info);
         HWND focus = info.hwndFocus ? info.hwndFocus : main;
         std::vector<HWND> inputs, buttons;
-        for (HWND child : ChildrenOf(main)) {
-            const std::wstring kind = ClassOf(child);
-            if (IsInput(child, kind)) inputs.push_back(child);
-            const auto type = static_cast<DWORD>(GetWindowLongW(child, GWL_STYLE)) & BS_TYPEMASK;
+        for (const Control& control : controls_) {
+            if (control.IsInput()) inputs.push_back(control.window);
             // A link starts a program: seldom, and never the other wizard.
-            if (kind == L"Button" && IsWindowEnabled(child) && (type != BS_OWNERDRAW || LinkIsDue(child)))
-                buttons.push_back(child);
+            if (control.kind == L"Button" && (control.type != BS_OWNERDRAW || LinkIsDue(control.window)))
+                buttons.push_back(control.window);
         }
         switch (const std::uint32_t choice = Below(20)) {
         case 0:
@@ -221,7 +245,7 @@ class Monkey {
             if (!buttons.empty()) return Click(OneOf(buttons));
             [[fallthrough]];
         default:
-            if (HWND button = choice < 18 ? walker_->Next() : walker_->Button(L"< Back")) Click(button);
+            if (HWND button = choice < 18 ? walker_->Next() : walker_->Back()) Click(button);
         }
     }
 
@@ -293,8 +317,16 @@ class Monkey {
 
     // The page after an event that began on `before`, which showed `shown` then.
     std::wstring Arrived(const std::wstring& before, const Shown& shown) {
-        heading_ = walker_->Heading();
-        if (const std::wstring problem = FormProblem(); !problem.empty()) return problem;
+        // A box that goes and a program that ends need a moment.
+        std::wstring problem;
+        for (int i = 0; i < 100; ++i, Sleep(10)) {
+            if (!wizard_->IsRunning() || !IsWindow(walker_->Main())) return {};
+            heading_ = walker_->Heading();
+            Look();
+            problem = FormProblem();
+            if (problem.empty()) break;
+        }
+        if (!problem.empty()) return problem;
         if (heading_ == before || before.empty()) return {};
         if (before == L"Configuration Name" && heading_ == L"Finished") return Created(shown);
         Keep(before, shown);
@@ -316,9 +348,8 @@ class Monkey {
         GetGUIThreadInfo(GetWindowThreadProcessId(main, nullptr), &info);
         if (!info.hwndFocus || !IsChild(main, info.hwndFocus)) return L"nothing has the focus";
         int defaults = 0;
-        for (HWND child : ChildrenOf(main))
-            defaults += ClassOf(child) == L"Button" && (static_cast<DWORD>(GetWindowLongW(child, GWL_STYLE)) &
-                                                        BS_TYPEMASK) == BS_DEFPUSHBUTTON;
+        for (const Control& control : controls_)
+            defaults += control.kind == L"Button" && control.type == BS_DEFPUSHBUTTON;
         return defaults == 1 ? L"" : std::to_wstring(defaults) + L" default buttons";
     }
 
@@ -420,6 +451,8 @@ class Monkey {
     bool unknown_ = false;                   // an answer is not followed any more
     std::wstring heading_;
     std::deque<std::wstring> acts_;
+    std::vector<Control> controls_;
+    std::map<HWND, std::wstring> kinds_;
     void* rectangle_ = nullptr;
     DWORD rectangleOf_ = 0;
     int event_ = 0;

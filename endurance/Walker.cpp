@@ -9,6 +9,9 @@ namespace {
 
 constexpr UINT kAnswerTime_ms = 30000;
 constexpr DWORD kPatience_ms = 60000;
+constexpr wchar_t kFormClass[] = L"VWizardForm";
+constexpr int kNextId = 100;
+constexpr int kBackId = 101;
 constexpr int kHeadingId = 120;
 constexpr int kBoxTextId = 65535;
 constexpr int kMostVisits = 4; // of one page without getting on
@@ -76,17 +79,6 @@ std::vector<HWND> ChildrenOf(HWND window) {
     return children;
 }
 
-std::vector<HWND> WindowsOfProcess(DWORD process) {
-    std::vector<HWND> windows;
-    EnumWindows(Collect, reinterpret_cast<LPARAM>(&windows));
-    std::erase_if(windows, [process](HWND window) {
-        DWORD owner = 0;
-        GetWindowThreadProcessId(window, &owner);
-        return owner != process || ClassOf(window) == L"tooltips_class32";
-    });
-    return windows;
-}
-
 void Walker::Press(HWND button) const {
     SendNotifyMessageW(button, BM_CLICK, 0, 0);
     Ask(main_, WM_NULL);
@@ -101,16 +93,43 @@ HWND Walker::Button(const wchar_t* caption) const {
 }
 
 HWND Walker::Next() const {
-    for (const wchar_t* caption : {L"&Next >", L"&Create", L"&Finish", L"&Close"})
-        if (HWND button = Button(caption)) return button;
+    for (const int id : {kNextId, static_cast<int>(IDCANCEL)}) // the permission page has no Next
+        if (HWND button = GetDlgItem(main_, id); IsWindowVisible(button)) return button;
     return nullptr;
 }
 
+HWND Walker::Back() const {
+    HWND button = GetDlgItem(main_, kBackId);
+    return IsWindowVisible(button) ? button : nullptr;
+}
+
 HWND Walker::Modal() const {
-    for (HWND window : WindowsOfProcess(wizard_.ProcessId()))
-        if (window != main_ && IsWindowEnabled(window) && !ClassOf(window).starts_with(L"VWizardForm"))
-            return window;
+    std::vector<HWND> windows;
+    if (thread_)
+        EnumThreadWindows(thread_, Collect, reinterpret_cast<LPARAM>(&windows));
+    else
+        EnumWindows(Collect, reinterpret_cast<LPARAM>(&windows));
+    for (HWND window : windows) {
+        DWORD owner = 0;
+        GetWindowThreadProcessId(window, &owner);
+        if (owner != wizard_.ProcessId() || window == main_ || !IsWindowEnabled(window)) continue;
+        const std::wstring kind = ClassOf(window);
+        if (kind != kFormClass && kind != L"tooltips_class32") return window;
+    }
     return nullptr;
+}
+
+void Walker::FindMain() {
+    if (main_ && IsWindow(main_)) return;
+    std::vector<HWND> windows;
+    EnumWindows(Collect, reinterpret_cast<LPARAM>(&windows));
+    for (HWND window : windows) {
+        DWORD owner = 0;
+        const DWORD thread = GetWindowThreadProcessId(window, &owner);
+        if (owner != wizard_.ProcessId() || ClassOf(window) != kFormClass) continue;
+        main_ = window;
+        thread_ = thread;
+    }
 }
 
 std::wstring Walker::AnswerModal(HWND modal) const {
@@ -129,8 +148,7 @@ std::wstring Walker::AnswerModal(HWND modal) const {
 bool Walker::WaitUntilReady() {
     const DWORD begin = GetTickCount();
     while (wizard_.IsRunning()) {
-        for (HWND window : WindowsOfProcess(wizard_.ProcessId()))
-            if (ClassOf(window) == L"VWizardForm") main_ = window;
+        FindMain();
         if (Modal()) return true;
         // Cancel is shown when the first page is about to be; a page change is over when it answers.
         HWND cancel = main_ ? GetDlgItem(main_, IDCANCEL) : nullptr;

@@ -40,21 +40,24 @@ class Walker {
     void Press(HWND button) const;
     std::wstring Heading() const;
     HWND Main() const { return main_; }
-    // The window in front of the wizard's own (a message box, a dialog), null when there is none.
+    // The window in front of the wizard's own (a message box, a dialog); null when there is none.
     HWND Modal() const;
     // Presses the button that goes on; the text of the box ("" for other windows).
     std::wstring AnswerModal(HWND modal) const;
     // Waits for the main window and for what stands in front of it to be ready: false when the program ended.
     bool WaitUntilReady();
 
-    HWND Next() const;
+    HWND Next() const; // the button that goes on; null when there is none
+    HWND Back() const;
     HWND Button(const wchar_t* caption) const;
 
   private:
+    void FindMain();
     void LeavePage(Journey& journey);
 
     const WizardDriver& wizard_;
     HWND main_ = nullptr;
+    DWORD thread_ = 0; // of the wizard's windows
     std::wstring lastPage_;
     int visits_ = 0; // of the page shown, one after the other
 };
@@ -66,8 +69,7 @@ bool IsKnownMessage(std::wstring_view text);
 class DemoSuite;
 Journey WalkWhole(const DemoSuite& suite, const wchar_t* arguments);
 
-// Windows and controls in their order, visible ones only.
-std::vector<HWND> WindowsOfProcess(DWORD process);
+// Visible controls in their order.
 std::vector<HWND> ChildrenOf(HWND window);
 std::wstring ClassOf(HWND window);
 std::wstring TextOf(HWND window);
