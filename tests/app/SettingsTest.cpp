@@ -2,7 +2,6 @@
 
 #include "tests/support/DemoSuite.h"
 #include "tests/support/Scratch.h"
-#include "win/Handles.h"
 
 #include <gtest/gtest.h>
 
@@ -70,32 +69,17 @@ void ExpectRefused() {
 } // namespace
 
 TEST(Settings, RefusedWrites) {
-    const ScratchSuite suite;
-    locations.IniFile = suite.Path() + L"missing\\VarnelDnc.ini";
-    ExpectRefused();
-    locations.IniFile = suite.Path() + L"folder.ini";
-    CreateDirectoryW(locations.IniFile.c_str(), nullptr);
-    ExpectRefused();
-    locations.IniFile = suite.Path() + L"locked.ini";
-    suite.Ini("[General]\r\nKey=0\r\n");
-    {
-        const win::UniqueKernelHandle lock(CreateFileW(locations.IniFile.c_str(), GENERIC_READ, 0, nullptr,
-                                                       OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    const std::string bytes = "[General]\r\nKey=0\r\n";
+    for (const Spoilt how : {Spoilt::Folder, Spoilt::Locked}) {
+        const ScratchSuite suite;
+        suite.Ini(bytes);
+        const auto lock = Spoil(locations.IniFile, how);
         ExpectRefused();
     }
-    EXPECT_EQ(suite.Ini(), "[General]\r\nKey=0\r\n");
-}
-
-TEST(Settings, ReadOnlyFile) {
     const ScratchSuite suite;
-    suite.Ini("[General]\r\nKey=0\r\n");
-    SetFileAttributesW(locations.IniFile.c_str(), FILE_ATTRIBUTE_READONLY);
-    const HANDLE file =
-        CreateFileW(locations.IniFile.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-    if (file != INVALID_HANDLE_VALUE) {
-        CloseHandle(file);
-        GTEST_SKIP() << "the attribute does not stop this user";
-    }
+    suite.Ini(bytes);
+    if (!ReadOnlyStops()) GTEST_SKIP() << "the read-only attribute does not stop this user";
+    Spoil(locations.IniFile, Spoilt::ReadOnly);
     ExpectRefused();
-    EXPECT_EQ(suite.Ini(), "[General]\r\nKey=0\r\n");
+    EXPECT_EQ(suite.Ini(), bytes);
 }

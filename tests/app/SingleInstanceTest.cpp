@@ -63,21 +63,6 @@ TEST(SingleInstance, SearchesDepthFirst) {
     EXPECT_EQ(start, GetDesktopWindow());
 }
 
-TEST(SingleInstance, RestoresAMinimisedWindow) {
-    const Window window = Make(L"VWizardTest", L"Varnel test minimised");
-    ShowWindow(window.get(), SW_SHOWMINNOACTIVE);
-    ASSERT_TRUE(IsIconic(window.get()));
-    EXPECT_TRUE(FindRunningWizard(L"Varnel test minimised"));
-    MSG message{};
-    for (int i = 0; i < 500 && IsIconic(window.get()); ++i) {
-        while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
-            DispatchMessageW(&message);
-        Sleep(2);
-    }
-    EXPECT_FALSE(IsIconic(window.get()));
-    EXPECT_EQ(GetForegroundWindow(), window.get());
-}
-
 TEST(SingleInstance, NeverWaitsForAHungWindow) {
     std::atomic<bool> made = false, over = false;
     std::thread hung([&] {

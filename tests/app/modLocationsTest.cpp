@@ -13,29 +13,18 @@ namespace {
 
 constexpr wchar_t kKey[] = L"SOFTWARE\\Varnel\\Varnel DNC\\Paths";
 
-// The user's own value, away for the length of a test, and the locations as they were.
+// The prefix of the tests has no value of its own.
 class Locations : public testing::Test {
   protected:
-    Locations() {
-        DWORD size = sizeof value_;
-        had_ = RegGetValueW(HKEY_CURRENT_USER, kKey, L"SettingsPath", RRF_RT_REG_SZ, nullptr, value_,
-                            &size) == ERROR_SUCCESS;
-        RegDeleteKeyValueW(HKEY_CURRENT_USER, kKey, L"SettingsPath");
-        InitLocations();
-    }
+    Locations() { InitLocations(); }
     ~Locations() override {
-        had_ ? Set(REG_SZ, value_ + L"\0"s)
-             : void(RegDeleteKeyValueW(HKEY_CURRENT_USER, kKey, L"SettingsPath"));
+        RegDeleteKeyValueW(HKEY_CURRENT_USER, kKey, L"SettingsPath");
         InitLocations();
     }
     static void Set(DWORD type, const std::wstring& value) {
         RegSetKeyValueW(HKEY_CURRENT_USER, kKey, L"SettingsPath", type, value.data(),
                         static_cast<DWORD>(value.size() * sizeof(wchar_t)));
     }
-
-  private:
-    wchar_t value_[1024] = L"";
-    bool had_ = false;
 };
 
 std::wstring CurrentFolder() {

@@ -3,86 +3,34 @@
 #include "app/Settings.h"
 #include "tests/support/DemoSuite.h"
 #include "tests/support/Scratch.h"
-#include "win/Handles.h"
 
 #include <gtest/gtest.h>
 
-namespace {
-
-using Lock = win::UniqueKernelHandle;
-
-std::wstring Probe() { return locations.SettingsPath + L"VAccessTest.txt"; }
-
-Lock Locked(const std::wstring& path) {
-    return Lock(CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
-}
-
-} // namespace
-
 TEST(Security, Codes) {
-    struct Row {
-        const char* what;
-        Lock (*prepare)();
+    constexpr const wchar_t *kFolder = L"", *kProbe = L"\\VAccessTest.txt", *kIni = L"\\VarnelDnc.ini";
+    // clang-format off
+    const struct {
+        const wchar_t* place;
+        Spoilt how;
         int code, error;
+    } rows[] = {
+        {kFolder, Spoilt::Not,      0,  0                      },
+        {kProbe,  Spoilt::File,     0,  0                      }, // left by an earlier run
+        {kFolder, Spoilt::Missing,  1,  ERROR_FILE_NOT_FOUND   },
+        {kFolder, Spoilt::File,     1,  ERROR_PATH_NOT_FOUND   },
+        {kProbe,  Spoilt::Folder,   3,  ERROR_ACCESS_DENIED    },
+        {kProbe,  Spoilt::Locked,   3,  ERROR_SHARING_VIOLATION},
+        {kIni,    Spoilt::Missing,  10, ERROR_FILE_NOT_FOUND   },
+        {kIni,    Spoilt::Folder,   10, 0                      },
+        {kIni,    Spoilt::ReadOnly, 11, 0                      },
+        {kIni,    Spoilt::Locked,   12, ERROR_SHARING_VIOLATION},
     };
-    const Row rows[] = {
-        {"all well", [] { return Lock(); }, 0, 0},
-        {"old probe file",
-         [] {
-             WriteFileBytes(Probe(), "something much longer than the probe itself");
-             return Lock();
-         },
-         0, 0},
-        {"no folder",
-         [] {
-             locations.SettingsPath += L"missing\\";
-             return Lock();
-         },
-         1, ERROR_FILE_NOT_FOUND},
-        {"folder below a file",
-         [] {
-             locations.SettingsPath = locations.IniFile + L"\\";
-             return Lock();
-         },
-         1, ERROR_PATH_NOT_FOUND},
-        {"folder in place of the probe",
-         [] {
-             CreateDirectoryW(Probe().c_str(), nullptr);
-             return Lock();
-         },
-         3, ERROR_ACCESS_DENIED},
-        {"probe locked",
-         [] {
-             WriteFileBytes(Probe(), "x");
-             return Locked(Probe());
-         },
-         3, ERROR_SHARING_VIOLATION},
-        {"no settings file",
-         [] {
-             DeleteFileW(locations.IniFile.c_str());
-             return Lock();
-         },
-         10, ERROR_FILE_NOT_FOUND},
-        {"folder in place of the settings file",
-         [] {
-             DeleteFileW(locations.IniFile.c_str());
-             CreateDirectoryW(locations.IniFile.c_str(), nullptr);
-             return Lock();
-         },
-         10, 0},
-        {"settings file read-only",
-         [] {
-             SetFileAttributesW(locations.IniFile.c_str(), FILE_ATTRIBUTE_READONLY);
-             return Lock();
-         },
-         11, 0},
-        {"settings file locked", [] { return Locked(locations.IniFile); }, 12, ERROR_SHARING_VIOLATION},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.what);
+    // clang-format on
+    for (const auto& row : rows) {
+        SCOPED_TRACE(Utf8(row.place) + " as " + std::to_string(static_cast<int>(row.how)));
         const ScratchSuite suite;
         suite.Ini("[General]\r\nSecurity=1\r\n");
-        const Lock lock = row.prepare();
+        const auto lock = Spoil(suite.Path().substr(0, suite.Path().size() - 1) + row.place, row.how);
         EXPECT_EQ(TestConfigAccess(), row.code);
         EXPECT_EQ(configAccess.ConfigWritable, row.code == 0);
         EXPECT_EQ(configAccess.AccessError, row.error);

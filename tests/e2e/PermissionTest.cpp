@@ -1,74 +1,28 @@
 // A user who may not write the settings meets one page, in either wizard, whatever the cause.
 
 #include "tests/support/DemoSuite.h"
+#include "tests/support/Scratch.h"
 #include "tests/support/WizardDriver.h"
-#include "win/Handles.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-using Lock = win::UniqueKernelHandle;
-
-struct Cause {
-    const char* what;
-    Lock (*bring)(const DemoSuite&);
-    bool keysFail; // told in a box before the page
+// clang-format off
+constexpr struct {
+    const wchar_t* place; // in the suite's folder
+    Spoilt how;
+    bool keysFail;        // told in a box before the page
+} kCauses[] = {
+    {L"Settings",                    Spoilt::Missing,  true },
+    {L"Settings",                    Spoilt::File,     true },
+    {L"Settings\\VAccessTest.txt", Spoilt::Folder,   false},
+    {L"Settings\\VarnelDnc.ini",   Spoilt::Missing,  false},
+    {L"Settings\\VarnelDnc.ini",   Spoilt::Folder,   true },
+    {L"Settings\\VarnelDnc.ini",   Spoilt::ReadOnly, false},
+    {L"Settings\\VarnelDnc.ini",   Spoilt::Locked,   true },
 };
-
-Lock Locked(const std::wstring& path) {
-    return Lock(CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
-}
-std::wstring Ini(const DemoSuite& suite) { return suite.Settings() + L"VarnelDnc.ini"; }
-
-Lock NoFolder(const DemoSuite& suite) {
-    DeleteFileW(Ini(suite).c_str());
-    RemoveDirectoryW(suite.Settings().c_str());
-    return {};
-}
-Lock FileInItsPlace(const DemoSuite& suite) {
-    NoFolder(suite);
-    WriteFileBytes(suite.Folder() + L"Settings", "x");
-    return {};
-}
-Lock NoProbe(const DemoSuite& suite) {
-    CreateDirectoryW((suite.Settings() + L"VAccessTest.txt").c_str(), nullptr);
-    return {};
-}
-Lock NoIni(const DemoSuite& suite) {
-    DeleteFileW(Ini(suite).c_str());
-    return {};
-}
-Lock FolderForIni(const DemoSuite& suite) {
-    NoIni(suite);
-    CreateDirectoryW(Ini(suite).c_str(), nullptr);
-    return {};
-}
-Lock ReadOnly(const DemoSuite& suite) {
-    SetFileAttributesW(Ini(suite).c_str(), FILE_ATTRIBUTE_READONLY);
-    return {};
-}
-Lock LockedIni(const DemoSuite& suite) { return Locked(Ini(suite)); }
-
-// Whether the read-only attribute stops this user's writes.
-bool AttributeStops(const DemoSuite& suite) {
-    const std::wstring path = suite.Folder() + L"probe";
-    WriteFileBytes(path, "x");
-    SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY);
-    const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-    if (file != INVALID_HANDLE_VALUE) CloseHandle(file);
-    return file == INVALID_HANDLE_VALUE;
-}
-
-constexpr Cause kCauses[] = {
-    {"no settings folder", NoFolder, true},
-    {"a file in place of the folder", FileInItsPlace, true},
-    {"a folder in place of the probe file", NoProbe, false},
-    {"no settings file", NoIni, false},
-    {"a folder in place of the settings file", FolderForIni, true},
-    {"settings file read-only", ReadOnly, false},
-    {"settings file locked", LockedIni, true},
-};
+// clang-format on
 
 void ExpectPage(const WizardDriver& wizard) {
     wizard.WaitForPage(L"Permission denied!");
@@ -90,27 +44,26 @@ void ExpectPage(const WizardDriver& wizard) {
 
 TEST(Permission, EachCauseShowsThePage) {
     for (const wchar_t* arguments : {L"", L"/NDW"})
-        for (const Cause& cause : kCauses) {
-            SCOPED_TRACE(std::string(cause.what) + " " + Utf8(arguments));
+        for (const auto& cause : kCauses) {
+            SCOPED_TRACE(Utf8(cause.place) + " as " + std::to_string(static_cast<int>(cause.how)));
             const DemoSuite suite;
-            const Lock lock = cause.bring(suite);
+            const auto lock = Spoil(suite.Folder() + cause.place, cause.how);
             const auto before = FileNames(suite.Settings());
+            const bool firstMakesIni = before.empty() && !cause.keysFail;
             WizardDriver wizard(suite, arguments, WizardDriver::Wait::No);
-            if (cause.keysFail || (cause.bring == ReadOnly && AttributeStops(suite))) {
-                const auto box = wizard.AnswerBox(IDOK);
-                EXPECT_EQ(box.text.find(L"Unable to write data to configuration file: \r\n" + Ini(suite)),
-                          0u);
+            if (cause.keysFail || (cause.how == Spoilt::ReadOnly && ReadOnlyStops())) {
+                const std::wstring text =
+                    L"Unable to write data to configuration file: \r\n" + suite.Settings();
+                EXPECT_EQ(wizard.AnswerBox(IDOK).text.find(text), 0u);
             }
             wizard.WaitForOpening();
             ExpectPage(wizard);
             wizard.Click(L"&Close"); // asks nothing
             EXPECT_EQ(wizard.WaitForExit(), 0);
             EXPECT_EQ(suite.StartCount(), 0u);
-            if (cause.bring == NoIni) {
-                const WizardDriver second(suite, arguments); // the start-up keys have made the file
-                EXPECT_TRUE(second.Has(L"&Next >"));
-            } else {
-                EXPECT_EQ(FileNames(suite.Settings()), before);
+            EXPECT_EQ(FileNames(suite.Settings()) == before, !firstMakesIni);
+            if (firstMakesIni) {
+                EXPECT_TRUE(WizardDriver(suite, arguments).Has(L"&Next >"));
             }
         }
 }

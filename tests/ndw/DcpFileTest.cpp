@@ -5,7 +5,6 @@
 #include "tests/ndw/DcpByHand.h"
 #include "tests/support/DemoSuite.h"
 #include "tests/support/Scratch.h"
-#include "win/Handles.h"
 
 #include <gtest/gtest.h>
 
@@ -49,10 +48,8 @@ TEST(DcpFile, ALongerFileIsNotCut) {
 TEST(DcpFile, Refusals) {
     const ScratchFolder folder;
     FillRecords();
-    CreateDirectoryW((folder.Path() + L"folder.DCP").c_str(), nullptr);
-    WriteFileBytes(folder.Path() + L"locked.DCP", "x");
-    const win::UniqueKernelHandle lock(CreateFileW((folder.Path() + L"locked.DCP").c_str(), GENERIC_READ, 0,
-                                                   nullptr, OPEN_EXISTING, 0, nullptr));
+    Spoil(folder.Path() + L"folder.DCP", Spoilt::Folder);
+    const auto lock = Spoil(folder.Path() + L"locked.DCP", Spoilt::Locked);
     for (const wchar_t* name : {L"missing\\a.DCP", L"folder.DCP", L"locked.DCP", L"COM1.DCP", L"COM1 .DCP",
                                 L"NUL.DCP", L"aux.dcp", L"LPT1.x.DCP", L"CONOUT$", L"a?.DCP"})
         EXPECT_FALSE(WriteDcpFile(folder.Path() + name)) << Utf8(name);

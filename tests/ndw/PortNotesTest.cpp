@@ -3,7 +3,6 @@
 #include "tests/ndw/DcpByHand.h"
 #include "tests/support/DemoSuite.h"
 #include "tests/support/Scratch.h"
-#include "win/Handles.h"
 
 #include <algorithm>
 
@@ -34,9 +33,8 @@ TEST(PortNotes, PassOverWhatIsNoConfiguration) {
     };
     for (const auto& file : files)
         WriteFileBytes(folder.Path() + file.name, file.bytes);
-    CreateDirectoryW((folder.Path() + L"X.DCP").c_str(), nullptr);
-    const win::UniqueKernelHandle lock(CreateFileW((folder.Path() + L"locked.DCP").c_str(), GENERIC_READ, 0,
-                                                   nullptr, OPEN_EXISTING, 0, nullptr));
+    Spoil(folder.Path() + L"X.DCP", Spoilt::Folder);
+    const auto lock = Spoil(folder.Path() + L"locked.DCP", Spoilt::Locked);
     auto uses = PortsInUse(folder);
     EXPECT_EQ(uses.size(), 2u);
     std::sort(uses[3].begin(), uses[3].end());

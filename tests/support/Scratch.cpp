@@ -40,6 +40,11 @@ void Remove(const std::wstring& folder) {
     RemoveDirectoryW(folder.c_str());
 }
 
+win::UniqueKernelHandle Open(const std::wstring& path, DWORD access) {
+    const HANDLE file = CreateFileW(path.c_str(), access, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    return win::UniqueKernelHandle(file == INVALID_HANDLE_VALUE ? nullptr : file);
+}
+
 // The button asked for, or any one that lets the program go on.
 HWND ButtonOf(HWND box, int wanted) {
     for (const int id : {wanted, IDOK, IDNO, IDCANCEL})
@@ -108,6 +113,24 @@ void ScratchKey::Set(const char* name, DWORD type, std::string_view bytes) const
 void ScratchKey::SetWide(const std::wstring& name, DWORD type, std::wstring_view text) const {
     RegSetValueExW(key_, name.c_str(), 0, type, reinterpret_cast<const BYTE*>(text.data()),
                    static_cast<DWORD>(text.size() * sizeof text[0]));
+}
+
+win::UniqueKernelHandle Spoil(const std::wstring& path, Spoilt how) {
+    if (how == Spoilt::Missing || how == Spoilt::Folder || how == Spoilt::File) {
+        Remove(path + L"\\");
+        DeleteFileW(path.c_str());
+    }
+    const bool wantsFile = how == Spoilt::File || how == Spoilt::ReadOnly || how == Spoilt::Locked;
+    if (wantsFile && !FileExists(path)) WriteFileBytes(path, "something longer than the probe file");
+    if (how == Spoilt::Folder) CreateDirectoryW(path.c_str(), nullptr);
+    if (how == Spoilt::ReadOnly) SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY);
+    return how == Spoilt::Locked ? Open(path, GENERIC_READ) : win::UniqueKernelHandle();
+}
+
+bool ReadOnlyStops() {
+    const ScratchFolder folder;
+    Spoil(folder.Path() + L"a", Spoilt::ReadOnly);
+    return !Open(folder.Path() + L"a", GENERIC_WRITE);
 }
 
 std::vector<Box> Answering(std::initializer_list<int> buttons, const std::function<void()>& act) {

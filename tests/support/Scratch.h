@@ -4,6 +4,7 @@
 // boxes that the program opens. All of it is put back or removed at the end of the test.
 
 #include "app/modLocations.h"
+#include "win/Handles.h"
 
 #include <windows.h>
 
@@ -59,6 +60,14 @@ class ScratchKey {
     std::wstring path_;
     HKEY key_ = nullptr;
 };
+
+// Ways in which a file or folder can stand in the program's way.
+enum class Spoilt { Not, Missing, File, Folder, ReadOnly, Locked };
+
+// Brings `path` into this state; locked only as long as the result lives.
+win::UniqueKernelHandle Spoil(const std::wstring& path, Spoilt how);
+// Whether the read-only attribute stops this user's writes: not root's, for one.
+bool ReadOnlyStops();
 
 struct Box {
     std::wstring title, text;

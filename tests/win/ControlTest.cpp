@@ -19,20 +19,15 @@ class TestForm : public win::Form {
                win::FontFor(win::FontUse::Body), win::Px(6000_tw), win::Px(4000_tw));
         for (int i = 0; i < 3; ++i)
             button[i].Bind(*this, 100 + i, L"Button", BS_PUSHBUTTON | BS_NOTIFY | WS_TABSTOP);
-        box.Bind(*this, 110, L"Button", BS_AUTOCHECKBOX | WS_TABSTOP);
         edit.Bind(*this, 120, L"Edit", ES_AUTOHSCROLL | WS_TABSTOP);
-        list.Bind(*this, 130, L"ListBox", LBS_EXTENDEDSEL | WS_TABSTOP);
-        combo.Bind(*this, 140, L"ComboBox", CBS_DROPDOWNLIST | WS_TABSTOP);
         link.Bind(*this, 150, L"Button", BS_OWNERDRAW | BS_NOTIFY | WS_TABSTOP);
         for (win::Control* control :
              {static_cast<win::Control*>(&button[0]), static_cast<win::Control*>(&button[1]),
               static_cast<win::Control*>(&link)})
             control->Place(0_tw, 0_tw, 1500_tw, 300_tw); // a button without a size takes no click
     }
-    win::Button button[3], box;
+    win::Button button[3];
     win::TextBox edit;
-    win::ListBox list;
-    win::ComboBox combo;
     win::Link link;
 };
 
@@ -93,39 +88,6 @@ TEST(Control, FollowsGivesTheTabOrder) {
         order.push_back(GetNextDlgTabItem(form.Hwnd(), order.back(), FALSE));
     EXPECT_EQ(order, (std::vector<HWND>{form.edit.Handle(), form.button[0].Handle(), form.button[1].Handle(),
                                         form.button[2].Handle()}));
-}
-
-TEST(Control, ValuesOfEachKind) {
-    TestForm form;
-    form.box.Checked(true);
-    EXPECT_TRUE(form.box.Checked());
-    form.box.Checked(false);
-    EXPECT_FALSE(form.box.Checked());
-
-    EXPECT_EQ(form.combo.Index(), -1);
-    form.combo.Add(L"a");
-    form.combo.Add(L"b");
-    form.combo.Index(1);
-    EXPECT_EQ(form.combo.Index(), 1);
-    form.combo.Clear();
-    EXPECT_EQ(form.combo.Index(), -1);
-
-    form.list.Add(L"D\u00e4n");
-    form.list.Add(L"");
-    form.list.Add(L"c");
-    EXPECT_EQ(form.list.SelectedCount(), 0);
-    form.list.Send(LB_SETSEL, TRUE, 2);
-    EXPECT_TRUE(form.list.Selected(2) && !form.list.Selected(0));
-    EXPECT_EQ(form.list.SelectedCount(), 1);
-    EXPECT_EQ(form.list.Item(0) + L"|" + form.list.Item(1) + L"|" + form.list.Item(9), L"D\u00e4n||");
-    EXPECT_EQ(form.list.Count(), 3);
-
-    form.edit.Limit(3);
-    for (const wchar_t c : std::wstring(L"abcd"))
-        form.edit.Send(WM_CHAR, c);
-    EXPECT_EQ(form.edit.Text(), L"abc");
-    form.edit.SelectAll();
-    EXPECT_EQ(form.edit.Send(EM_GETSEL), MAKELRESULT(0, 3));
 }
 
 TEST(Control, ClicksReachTheirHandler) {

@@ -52,8 +52,9 @@ int WidestItem(HWND control, UINT count, UINT length, UINT get) {
     for (LRESULT i = 0; i < SendMessageW(control, count, 0, 0); ++i) {
         const auto index = static_cast<WPARAM>(i);
         std::wstring item(static_cast<std::size_t>(SendMessageW(control, length, index, 0)) + 1, L'\0');
-        SendMessageW(control, get, index, reinterpret_cast<LPARAM>(item.data()));
-        widest = std::max(widest, static_cast<int>(Extent(control, item.c_str(), false).cx));
+        item.resize(static_cast<std::size_t>(
+            SendMessageW(control, get, index, reinterpret_cast<LPARAM>(item.data()))));
+        widest = std::max(widest, static_cast<int>(Extent(control, item, false).cx));
     }
     return widest;
 }
