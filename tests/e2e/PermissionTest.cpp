@@ -14,8 +14,8 @@ constexpr struct {
     Spoilt how;
     bool keysFail;        // told in a box before the page
 } kCauses[] = {
-    {L"Settings",                    Spoilt::Missing,  true },
-    {L"Settings",                    Spoilt::File,     true },
+    {L"Settings",                  Spoilt::Missing,  true },
+    {L"Settings",                  Spoilt::File,     true },
     {L"Settings\\VAccessTest.txt", Spoilt::Folder,   false},
     {L"Settings\\VarnelDnc.ini",   Spoilt::Missing,  false},
     {L"Settings\\VarnelDnc.ini",   Spoilt::Folder,   true },

@@ -31,13 +31,13 @@ BOOL CALLBACK FindBox(HWND window, LPARAM found) {
     return !box;
 }
 
-// Read-only files too, which the shell leaves.
-void Remove(const std::wstring& folder) {
-    for (const std::wstring& name : FileNames(folder)) {
-        SetFileAttributesW((folder + name).c_str(), FILE_ATTRIBUTE_NORMAL);
-        if (!DeleteFileW((folder + name).c_str())) Remove(folder + name + L"\\");
-    }
-    RemoveDirectoryW(folder.c_str());
+// A file or a folder with all in it; read-only files too, which the shell leaves.
+void Remove(const std::wstring& path) {
+    SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+    if (DeleteFileW(path.c_str())) return;
+    for (const std::wstring& name : FileNames(path + L"\\"))
+        Remove(path + L"\\" + name);
+    RemoveDirectoryW(path.c_str());
 }
 
 win::UniqueKernelHandle Open(const std::wstring& path, DWORD access) {
@@ -57,12 +57,13 @@ HWND ButtonOf(HWND box, int wanted) {
 ScratchFolder::ScratchFolder() {
     std::wstring temp(MAX_PATH, L'\0');
     temp.resize(GetTempPathW(MAX_PATH, temp.data()));
-    path_ = temp + UniqueName() + L"\\";
-    Remove(path_); // left by a run that broke off
+    const std::wstring folder = temp + UniqueName();
+    Remove(folder); // left by a run that broke off
+    path_ = folder + L"\\";
     if (!CreateDirectoryW(path_.c_str(), nullptr)) throw std::runtime_error("no scratch folder");
 }
 
-ScratchFolder::~ScratchFolder() { Remove(path_); }
+ScratchFolder::~ScratchFolder() { Remove(path_.substr(0, path_.size() - 1)); }
 
 ScratchSuite::ScratchSuite()
     : settings_(locations.SettingsPath), ini_(locations.IniFile), program_(locations.AppPath) {
@@ -116,10 +117,7 @@ void ScratchKey::SetWide(const std::wstring& name, DWORD type, std::wstring_view
 }
 
 win::UniqueKernelHandle Spoil(const std::wstring& path, Spoilt how) {
-    if (how == Spoilt::Missing || how == Spoilt::Folder || how == Spoilt::File) {
-        Remove(path + L"\\");
-        DeleteFileW(path.c_str());
-    }
+    if (how == Spoilt::Missing || how == Spoilt::Folder || how == Spoilt::File) Remove(path);
     const bool wantsFile = how == Spoilt::File || how == Spoilt::ReadOnly || how == Spoilt::Locked;
     if (wantsFile && !FileExists(path)) WriteFileBytes(path, "something longer than the probe file");
     if (how == Spoilt::Folder) CreateDirectoryW(path.c_str(), nullptr);
