@@ -1,6 +1,5 @@
 #include "app/Files.h"
 
-#include "tests/support/DemoSuite.h"
 #include "tests/support/Scratch.h"
 
 #include <shellapi.h>
@@ -21,34 +20,28 @@ TEST(Files, WhatExists) {
     const struct {
         std::wstring path;
         bool file, folder;
+        std::optional<unsigned long long> size;
     } rows[] = {
-        {L"", false, false},
-        {L"   ", false, false},
-        {folder, false, true},
-        {folder.Path() + L"a.txt", true, false},
-        {folder.Path() + L"A.TXT", true, false},
-        {folder.Path() + L"a.txt\\", false, false},
-        {folder.Path() + L"hidden.txt", true, false},
-        {folder.Path() + L"no extension", true, false},
-        {folder.Path() + L".txt", false, false}, // no name before the dot
-        {folder.Path() + L"b.txt", false, false},
-        {folder.Path() + L"sub.dir", false, true},
-        {folder.Path() + L"sub.dir\\", false, true},
-        {folder.Path() + L"sub.dir\\..\\a.txt", true, false},
-        {L"C:\\", false, true},
-        {L"Q:\\", false, false},
-        {L"Q:\\a.txt", false, false},
-        {L"a<b>|.txt", false, false},
-        {L"\\\\nowhere\\share\\a.txt", false, false},
+        {L"", false, false, {}},
+        {folder, false, true, {}},
+        {folder.Path() + L"A.TXT", true, false, 1},
+        {folder.Path() + L"a.txt\\", false, false, {}},
+        {folder.Path() + L"hidden.txt", true, false, 1},
+        {folder.Path() + L"no extension", true, false, 1},
+        {folder.Path() + L".txt", false, false, 1}, // no name before the dot
+        {folder.Path() + L"b.txt", false, false, {}},
+        {folder.Path() + L"sub.dir", false, true, {}},
+        {folder.Path() + L"sub.dir\\..\\a.txt", true, false, 1},
+        {L"C:\\", false, true, {}},
+        {L"Q:\\a.txt", false, false, {}},
+        {L"a<b>|.txt", false, false, {}},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(Utf8(row.path));
         EXPECT_EQ(FileExists(row.path), row.file);
         EXPECT_EQ(FolderExists(row.path), row.folder);
+        EXPECT_EQ(FileSize(row.path), row.size);
     }
-    EXPECT_EQ(FileSize(folder.Path() + L"a.txt"), 1u);
-    EXPECT_EQ(FileSize(folder.Path() + L"b.txt"), std::nullopt);
-    EXPECT_EQ(FileSize(folder.Path() + L"sub.dir"), std::nullopt);
 }
 
 TEST(Files, ListsOneExtension) {
@@ -62,11 +55,11 @@ TEST(Files, ListsOneExtension) {
     EXPECT_EQ(ListFiles(folder.Path() + L"missing\\", L".dcp"), Names{});
 }
 
-TEST(Files, CopyingAsksBeforeItReplaces) {
+TEST(Files, CopyingAsksBeforeItReplacesUnlessToldNotTo) {
     const struct {
-        int answer;
+        int answer; // 0: no question expected
         bool copied;
-    } rows[] = {{IDYES, true}, {IDNO, false}, {IDCANCEL, false}};
+    } rows[] = {{IDYES, true}, {IDNO, false}, {IDCANCEL, false}, {0, true}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.answer);
         const ScratchFolder from, to;
@@ -74,26 +67,15 @@ TEST(Files, CopyingAsksBeforeItReplaces) {
         WriteFileBytes(from.Path() + L"b.dcp", "new");
         WriteFileBytes(to.Path() + L"b.dcp", "old");
         const std::wstring list = from.Path() + L"a.dcp" + L'\0' + from.Path() + L"b.dcp" + L'\0';
-        bool copied = !row.copied;
-        EXPECT_EQ(Answering({row.answer}, [&] { copied = CopyFiles(list, to, 0, nullptr); }).size(), 1u);
-        EXPECT_EQ(copied, row.copied);
+        const auto flags = static_cast<std::int16_t>(row.answer ? 0 : FOF_NOCONFIRMATION);
+        const auto boxes = Answering({row.answer}, [&] {
+            EXPECT_EQ(CopyFiles(list, to, flags, nullptr), row.copied);
+            EXPECT_FALSE(CopyFiles(from.Path() + L"missing.dcp" + L'\0', to, flags, nullptr));
+        });
+        EXPECT_EQ(boxes.size(), row.answer ? 1u : 0u);
         EXPECT_EQ(FileBytes(to.Path() + L"a.dcp"), "new");
         EXPECT_EQ(FileBytes(to.Path() + L"b.dcp"), row.copied ? "new" : "old");
     }
-}
-
-TEST(Files, CopyingWithoutQuestions) {
-    const ScratchFolder from, to;
-    WriteFileBytes(from.Path() + L"a.dcp", "new");
-    WriteFileBytes(to.Path() + L"a.dcp", "old");
-    const auto boxes = Answering({}, [&] {
-        const std::wstring list = from.Path() + L"a.dcp" + L'\0';
-        EXPECT_TRUE(CopyFiles(list, to, FOF_NOCONFIRMATION, nullptr));
-        EXPECT_FALSE(CopyFiles(from.Path() + L"missing.dcp" + L'\0', to, 0, nullptr));
-    });
-    EXPECT_TRUE(boxes.empty());
-    EXPECT_EQ(FileBytes(to.Path() + L"a.dcp"), "new");
-    EXPECT_EQ(FileBytes(from.Path() + L"a.dcp"), "new");
 }
 
 TEST(Files, Deleting) {
@@ -101,8 +83,8 @@ TEST(Files, Deleting) {
     for (const wchar_t* name : {L"a.dcp", L"b.dcp", L"c.dcp"})
         WriteFileBytes(folder.Path() + name, "x");
     const std::wstring list = folder.Path() + L"a.dcp" + L'\0' + folder.Path() + L"b.dcp" + L'\0';
-    EXPECT_TRUE(DeleteAnyFile(list, FOF_NOCONFIRMATION, nullptr));
-    EXPECT_EQ(FileNames(folder), Names{L"c.dcp"});
-    EXPECT_FALSE(DeleteAnyFile(list, FOF_NOCONFIRMATION | FOF_NOERRORUI, nullptr));
-    EXPECT_EQ(FileNames(folder), Names{L"c.dcp"});
+    for (const bool there : {true, false}) {
+        EXPECT_EQ(DeleteAnyFile(list, FOF_NOCONFIRMATION | FOF_NOERRORUI, nullptr), there);
+        EXPECT_EQ(FileNames(folder), Names{L"c.dcp"});
+    }
 }

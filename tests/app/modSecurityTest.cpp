@@ -1,7 +1,6 @@
 #include "app/modSecurity.h"
 
 #include "app/Settings.h"
-#include "tests/support/DemoSuite.h"
 #include "tests/support/Scratch.h"
 
 #include <gtest/gtest.h>
@@ -53,19 +52,14 @@ TEST(Security, ASuccessLeavesItsKeyAndNoProbe) {
 }
 
 TEST(Security, Switches) {
-    const struct {
-        const char* value;
-        bool restrict, enabled;
-    } rows[] = {{"0", false, false},  {"1", false, true},  {"2", true, false},    {"3", true, true},
-                {"7", true, true},    {"4", false, false}, {"abc", false, false}, {"", false, false},
-                {"2 x", true, false}, {"-1", true, true},  {"65538", true, false}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.value);
+    const std::pair<std::string, int> rows[] = {{"0", 0},   {"1", 1},  {"2", 2},    {"3", 3},
+                                                {"7", 3},   {"4", 0},  {"", 0},     {"abc", 0},
+                                                {"2 x", 2}, {"-1", 3}, {"65538", 2}};
+    for (const auto& [value, switches] : rows) {
         const ScratchSuite suite;
-        suite.Ini("[General]\r\nSecurity=" + std::string(row.value) + "\r\n");
+        suite.Ini("[General]\r\nSecurity=" + value + "\r\n");
         TestConfigAccess();
-        EXPECT_EQ(configAccess.SecurityRestrict, row.restrict);
-        EXPECT_EQ(configAccess.SecurityEnabled, row.enabled);
+        EXPECT_EQ(configAccess.SecurityEnabled + 2 * configAccess.SecurityRestrict, switches) << value;
         EXPECT_TRUE(configAccess.ConfigWritable);
     }
 }

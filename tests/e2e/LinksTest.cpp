@@ -1,5 +1,6 @@
 // Every link of both wizards, those that no page shows included: what is started, and how.
 
+#include "app/StartUp.h"
 #include "app/modLocations.h"
 #include "ftw/FtwPages.h"
 #include "ndw/NdwPages.h"
@@ -68,40 +69,63 @@ std::wstring InSuite(std::wstring text, const DemoSuite& suite) {
     return text;
 }
 
-// Follows each link with the suite's folder as the program's and the current one, as when the wizard runs.
-void ExpectStarts(const PageBook& book, std::span<const Link> links) {
-    const DemoSuite suite;
-    // The wizard itself is one of the programs: a stand-in for it, too.
-    ASSERT_TRUE(CopyFileW((suite.Folder() + L"VConfig.exe").c_str(),
-                          (suite.Folder() + L"VWizard.exe").c_str(), FALSE));
-    const std::wstring programFolder = locations.AppPath;
-    locations.AppPath = suite.Folder();
-    wchar_t before[MAX_PATH] = L"";
-    GetCurrentDirectoryW(MAX_PATH, before);
-    SetCurrentDirectoryW(suite.Folder().c_str());
-    frmWizard form(book, true);
-    form.ConfigName = L"Mill 3 \x00E4";
-    std::size_t count = 0;
-    for (const Link& link : links) {
-        SCOPED_TRACE("page " + std::to_string(link.page) + ", link " + std::to_string(link.index));
-        form.PageNo = link.page;
-        const std::size_t earlier = link.program ? suite.Starts(link.program).size() : 0;
-        form.lblHyperlink_Click(link.index);
-        if (link.program) {
-            const Start start = suite.WaitForStarts(link.program, earlier + 1).back();
-            EXPECT_EQ(Utf8(start.commandLine), Utf8(InSuite(link.commandLine, suite)));
-            EXPECT_EQ(start.show, SW_SHOWNORMAL);
-            EXPECT_EQ(start.folder + L"\\", suite.Folder());
-            ++count;
-        }
-        EXPECT_EQ(suite.StartCount() + suite.Starts(L"VWizard.exe").size(), count);
+// With the suite's folder as the program's and the current one, as when the wizard runs.
+class Links : public testing::Test {
+  protected:
+    Links() {
+        // The wizard itself is one of the programs: a stand-in for it, too.
+        CopyFileW((suite.Folder() + L"VConfig.exe").c_str(), (suite.Folder() + L"VWizard.exe").c_str(),
+                  FALSE);
+        locations.AppPath = suite.Folder();
+        GetCurrentDirectoryW(MAX_PATH, before_);
+        SetCurrentDirectoryW(suite.Folder().c_str());
     }
-    locations.AppPath = programFolder;
-    SetCurrentDirectoryW(before);
-}
+    ~Links() override { SetCurrentDirectoryW(before_); }
+
+    void ExpectStarts(const PageBook& book, std::span<const Link> links) const {
+        frmWizard form(book, true);
+        form.ConfigName = L"Mill 3 \x00E4";
+        std::size_t count = 0;
+        for (const Link& link : links) {
+            SCOPED_TRACE("page " + std::to_string(link.page) + ", link " + std::to_string(link.index));
+            form.PageNo = link.page;
+            const std::size_t earlier = link.program ? suite.Starts(link.program).size() : 0;
+            form.lblHyperlink_Click(link.index);
+            if (link.program) ExpectStart(link.program, earlier + 1, link.commandLine);
+            if (link.program) ++count;
+            EXPECT_EQ(suite.StartCount() + suite.Starts(L"VWizard.exe").size(), count);
+        }
+    }
+    void ExpectStart(const wchar_t* program, std::size_t count, const wchar_t* commandLine) const {
+        const Start start = suite.WaitForStarts(program, count).back();
+        EXPECT_EQ(Utf8(start.commandLine), Utf8(InSuite(commandLine, suite)));
+        EXPECT_EQ(start.show, SW_SHOWNORMAL);
+        EXPECT_EQ(start.folder + L"\\", suite.Folder());
+    }
+
+    const ScratchSuite restoresLocations;
+    const DemoSuite suite;
+
+  private:
+    wchar_t before_[MAX_PATH] = L"";
+};
 
 } // namespace
 
-TEST(Links, FirstTimeSetupWizard) { ExpectStarts(FtwBook(), kFtwLinks); }
+TEST_F(Links, FirstTimeSetupWizard) { ExpectStarts(FtwBook(), kFtwLinks); }
 
-TEST(Links, NewDeviceWizard) { ExpectStarts(NdwBook(), kNdwLinks); }
+TEST_F(Links, NewDeviceWizard) { ExpectStarts(NdwBook(), kNdwLinks); }
+
+// Closed after a configuration was made for VConfig: it is handed over, with the doubled backslash.
+TEST_F(Links, ExitHandsTheConfigurationOver) {
+    frmWizard form(NdwBook(), true);
+    form.ConfigName = L"Mill 3 \x00E4";
+    for (const int flags : {0, 1, 2, 3}) {
+        startUp.ConfigLaunch = flags & 1;
+        form.ConfigWritten = flags & 2;
+        NdwBook().exiting(form);
+    }
+    startUp.ConfigLaunch = false;
+    ExpectStart(L"VConfig.exe", 1, L"\"?\\VConfig.exe\" Mill 3 \x00E4");
+    EXPECT_EQ(suite.StartCount(), 1u);
+}

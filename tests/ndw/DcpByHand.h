@@ -1,5 +1,8 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -63,3 +66,13 @@ class DcpByHand {
 
     std::string bytes_;
 };
+
+// The first difference is easier to read than two times 5449 bytes.
+inline void ExpectBytes(const std::string& made, const std::string& expected) {
+    ASSERT_EQ(made.size(), expected.size());
+    const auto [m, e] = std::mismatch(made.begin(), made.end(), expected.begin());
+    if (m == made.end()) return;
+    const auto offset = static_cast<std::size_t>(m - made.begin());
+    ADD_FAILURE() << "at offset " << offset << ": " << testing::PrintToString(made.substr(offset, 12))
+                  << " instead of " << testing::PrintToString(expected.substr(offset, 12));
+}

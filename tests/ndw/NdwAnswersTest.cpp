@@ -1,4 +1,5 @@
 #include "ndw/NdwAnswers.h"
+#include "ndw/PortUse.h"
 
 #include <gtest/gtest.h>
 
@@ -12,13 +13,10 @@ TEST(NdwAnswers, Codes) {
     const Row rows[] = {
         {0,  0,  0, L"",              L"",               true },
         {0,  1,  1, L"^M^J",          L"^M^J",           true },
-        {1,  1,  1, L"^J",            L"^J",             true },
-        {2,  1,  1, L"^M",            L"^M",             true },
-        {0,  2,  2, L"%",             L"%",              true },
+        {1,  2,  2, L"%",             L"%",              true },
         {1,  4,  4, L"^J",            L"^D",             true },
         {2,  8,  8, L"^R",            L"^T",             true },
         {0,  0, 16, L"",              L"^Z",             true },
-        {0,  7, 15, L"^M^J%^M^J",     L"^M^J%^D^T",      true },
         {0, 15, 31, L"^M^J%^M^J^R",   L"^M^J%^D^T^Z",    false},
         {1, 15, 31, L"^J%^J^R",       L"^J%^D^T^Z",      true },
         {2, 13, 29, L"^M^M^R",        L"^M^D^T^Z",       true },
@@ -37,23 +35,21 @@ TEST(NdwAnswers, Codes) {
     EXPECT_TRUE(CodesFit(L"0123456789"));
 }
 
+// What answers out of range look like; pages.txt shows the others.
 TEST(NdwAnswers, Summary) {
-    EXPECT_EQ(SummaryText(NdwDefaultAnswers()),
-              L"COM1, 4800 baud, ISO\r\n"
-              L"Flow control: Software (XON/XOFF); end of block: CR + LF\r\n"
-              L"Prefix: none; suffix: none\r\n"
-              L"File name: O number: O and 4 digits (O1234)");
     NdwAnswers answers;
-    answers.portIndex = 255;
-    answers.baudIndex = 11;
-    answers.dataFormatIndex = 2;
     answers.characterFormatIndex = 5;
+    answers.dataFormatIndex = 2;
     answers.flowControlIndex = -1;
-    answers.prefixChoice = 15;
-    answers.suffixChoice = 2;
     answers.receiveNamingIndex = 12;
-    EXPECT_EQ(SummaryText(answers), L"COM256, 115200 baud, ASCII (8 data bits, odd parity)\r\n"
+    EXPECT_EQ(SummaryText(answers), L"COM1, 4800 baud, ASCII (8 data bits, odd parity)\r\n"
                                     L"Flow control: ?; end of block: CR + LF\r\n"
-                                    L"Prefix: ^M^J%^M^J^; suffix: %\r\n"
+                                    L"Prefix: none; suffix: none\r\n"
                                     L"File name: ?");
+}
+
+TEST(PortUse, Captions) {
+    EXPECT_EQ(PortCaption(256, true, L""), L"COM256 - on this computer");
+    EXPECT_EQ(PortCaption(3, false, L"LATHE2"), L"COM3 - used by LATHE2");
+    EXPECT_EQ(PortCaption(3, true, L"LATHE2, Mill 1"), L"COM3 - on this computer, used by LATHE2, Mill 1");
 }

@@ -1,7 +1,6 @@
 #include "ndw/PortNotes.h"
 
 #include "tests/ndw/DcpByHand.h"
-#include "tests/support/DemoSuite.h"
 #include "tests/support/Scratch.h"
 
 #include <algorithm>
@@ -53,26 +52,12 @@ TEST(PortNotes, ReadingStopsInTime) {
 
 TEST(PortNotes, PortsOfTheSerialMap) {
     const ScratchKey key;
-    const struct {
-        DWORD type;
-        std::wstring port;
-    } values[] = {{REG_SZ, std::wstring(L"COM3\0", 5)},
-                  {REG_SZ, L"COM4"},
-                  {REG_SZ, L"COM256"},
-                  {REG_SZ, L"COM257"},
-                  {REG_SZ, L"COM0"},
-                  {REG_SZ, L"COM"},
-                  {REG_SZ, L"COM5x"},
-                  {REG_SZ, L"LPT1"},
-                  {REG_SZ, L"COM3"},
-                  {REG_DWORD, L"\x4F43"},
-                  {REG_SZ, L"COM6 far too long for a port"},
-                  {REG_SZ, L""},
-                  {REG_SZ, L"COM-7"},
-                  {REG_SZ, L"COM 8"}};
     int count = 0;
-    for (const auto& value : values)
-        key.SetWide(L"\\Device\\Serial" + std::to_wstring(++count), value.type, value.port);
+    for (const wchar_t* port : {L"COM3", L"COM4", L"COM256", L"COM257", L"COM0", L"COM", L"COM5x", L"LPT1",
+                                L"COM3", L"COM6 far too long for a port", L"", L"COM-7", L"COM 8"})
+        key.Set(L"\\Device\\Serial" + std::to_wstring(++count), REG_SZ, port);
+    key.Set(std::wstring(L"With a NUL"), REG_SZ, std::wstring_view(L"COM3", 5));
+    key.Set(std::wstring(L"Number"), REG_DWORD, L"\x4F43");
     EXPECT_EQ(PortsOfComputer(HKEY_CURRENT_USER, key.Path().c_str()), (std::set<int>{3, 4, 256}));
     EXPECT_TRUE(PortsOfComputer(HKEY_CURRENT_USER, (key.Path() + L"\\missing").c_str()).empty());
 }

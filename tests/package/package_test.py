@@ -16,6 +16,7 @@ BUILD = os.path.join(ROOT, "build", "release")
 
 CONFIGURATION_SIZE = 5449
 FEWEST_OF_A_KIND = 12
+ICON_SIZES = [16, 24, 32, 48, 64]
 
 
 def in_shell(command, *arguments):
@@ -53,36 +54,26 @@ class Package(unittest.TestCase):
         cls.addClassCleanup(cls.zip.close)
         cls.names = cls.zip.namelist()
 
-    def in_folder(self, folder):
-        return [name for name in self.names if name.startswith(folder + "/")]
-
-    def test_holds_the_program_and_its_companions(self):
-        alone = [name for name in self.names if "/" not in name]
-        self.assertEqual(alone, ["README.txt", "VWizard.exe"])
+    def test_holds_the_program_its_notes_icons_and_samples(self):
+        folders = {"Icons": [], "Samples": [], "": []}
+        for name in self.names:
+            folders[os.path.dirname(name)].append(name)
+        self.assertEqual(folders[""], ["README.txt", "VWizard.exe"])
         with open(os.path.join(BUILD, "VWizard.exe"), "rb") as program:
             self.assertEqual(self.zip.read("VWizard.exe"), program.read())
-        self.assertEqual(len(self.in_folder("Icons")) + len(self.in_folder("Samples")) + len(alone),
-                         len(self.names))
-
-    def test_icons(self):
-        icons = self.in_folder("Icons")
-        self.assertGreaterEqual(len(icons), FEWEST_OF_A_KIND)
-        self.assertIn("Icons/VDNC32.ICO", icons)
-        for name in icons:
-            self.assertEqual(self.zip.read(name)[:4], b"\0\0\1\0", name)
-
-    def test_samples(self):
-        samples = self.in_folder("Samples")
-        self.assertGreaterEqual(len(samples), FEWEST_OF_A_KIND)
-        for name in samples:
-            self.assertEqual(len(self.zip.read(name)), CONFIGURATION_SIZE, name)
-            self.assertTrue(self.zip.read(name).startswith(b"VDNCW32A "), name)
+        self.assertIn("Icons/VDNC32.ICO", folders["Icons"])
+        self.assertGreaterEqual(min(len(folders["Icons"]), len(folders["Samples"])), FEWEST_OF_A_KIND)
+        for name in folders["Icons"]:
+            icon = self.zip.read(name)
+            self.assertEqual((icon[:4], [icon[6 + 16 * i] for i in range(icon[4])]), (b"\0\0\1\0", ICON_SIZES), name)
+        for name in folders["Samples"]:
+            sample = self.zip.read(name)
+            self.assertEqual((sample[:9], len(sample)), (b"VDNCW32A ", CONFIGURATION_SIZE), name)
 
     def test_notes_for_administrators(self):
         text = self.zip.read("README.txt").decode("ascii")
-        lines = text.split("\r\n")
-        self.assertNotIn("\n", "".join(lines))
-        self.assertRegex(lines[0], r"^Varnel DNC Setup and Configuration Wizard \d+\.\d+\.\d+$")
+        self.assertNotIn("\n", text.replace("\r\n", ""))
+        self.assertRegex(text, r"^Varnel DNC Setup and Configuration Wizard \d+\.\d+\.\d+\r\n")
         self.assertNotIn("@", text)
         for switch in ("/NDW", "/SHIFT", "/VCONFIG"):
             self.assertIn(switch, text)
@@ -91,8 +82,7 @@ class Package(unittest.TestCase):
         self.assertEqual(self.names, sorted(self.names))
         committed = time.gmtime(int(in_shell("source_time")) + 1 & ~1)  # kept in even seconds, rounded up
         for entry in self.zip.infolist():
-            self.assertEqual(entry.date_time, committed[:6], entry.filename)
-            self.assertEqual(entry.extra, b"", entry.filename)
+            self.assertEqual((entry.date_time, entry.extra), (committed[:6], b""), entry.filename)
 
     def test_comes_out_the_same_every_time(self):
         second = os.path.join(self.scratch.name, "second")

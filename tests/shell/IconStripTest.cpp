@@ -7,52 +7,20 @@ namespace {
 // One letter an operation: 1 to 6 clicks a slot, L and R are the arrow keys, < > { } [ ] the scroll bar's
 // arrows, pages and ends.
 IconStrip Play(IconStrip strip, std::string_view moves) {
-    for (const char c : moves) {
-        switch (c) {
-            // clang-format off
-        case 'L': strip = MoveLeft(strip); break;
-        case 'R': strip = MoveRight(strip); break;
-        case '<': strip = Scroll(strip, ScrollStep::LineLeft); break;
-        case '>': strip = Scroll(strip, ScrollStep::LineRight); break;
-        case '{': strip = Scroll(strip, ScrollStep::PageLeft); break;
-        case '}': strip = Scroll(strip, ScrollStep::PageRight); break;
-        case '[': strip = Scroll(strip, ScrollStep::First); break;
-        case ']': strip = Scroll(strip, ScrollStep::Last); break;
-        default:  strip = ClickSlot(strip, static_cast<std::int16_t>(c - '0'));
-            // clang-format on
-        }
+    using enum ScrollStep;
+    constexpr std::pair<char, ScrollStep> kSteps[] = {{'<', LineLeft},  {'>', LineRight}, {'{', PageLeft},
+                                                      {'}', PageRight}, {'[', First},     {']', Last}};
+    for (const char move : moves) {
+        if (move == 'L') strip = MoveLeft(strip);
+        if (move == 'R') strip = MoveRight(strip);
+        if (move >= '1' && move <= '6') strip = ClickSlot(strip, static_cast<std::int16_t>(move - '0'));
+        for (const auto& [letter, step] : kSteps)
+            if (move == letter) strip = Scroll(strip, step);
     }
     return strip;
 }
 
-TEST(IconStrip, Opens) {
-    struct Row {
-        std::int16_t count, wanted, selected, scroll;
-        bool bar;
-    };
-    // clang-format off
-    const Row rows[] = {
-        {    0,  5,     1,     1, false},
-        {    1,  1,     1,     1, false},
-        {    3,  3,     3,     1, false},
-        {    6,  6,     6,     1, false},
-        {    7,  1,     1,     1, true },
-        {    7,  7,     7,     2, true },
-        {   40, 20,    20,    20, true },
-        {   40, 36,    36,    35, true },
-        {   40, 99,    40,    35, true },
-        {   40,  0,     1,     1, true },
-        {32767, 32767, 32767, 32762, true},
-    };
-    // clang-format on
-    for (const Row& row : rows) {
-        const IconStrip strip = OpenStrip(row.count, row.wanted);
-        EXPECT_EQ(strip, (IconStrip{row.count, row.selected, row.scroll})) << row.count << ", " << row.wanted;
-        EXPECT_EQ(NeedsScrollBar(row.count), row.bar) << row.count;
-    }
-}
-
-TEST(IconStrip, Moves) {
+TEST(IconStrip, OpensAndMoves) {
     struct Row {
         std::int16_t count, wanted;
         std::string_view moves;
@@ -60,37 +28,44 @@ TEST(IconStrip, Moves) {
     };
     // clang-format off
     const Row rows[] = {
-        { 0,  1, "L R 1 6 < > ] }",  1,  1, 0},
-        { 3,  1, "5",                3,  1, 3}, // a slot without an icon
-        { 3,  1, "2",                2,  1, 2},
-        { 3,  1, "L",                1,  1, 1},
-        { 3,  3, "R",                3,  1, 3},
-        { 3,  1, "]",                1,  1, 1},
-        { 6,  1, "RRRRRRR",          6,  1, 6},
-        { 7,  1, "RRRRR",            6,  1, 6},
-        { 7,  1, "RRRRRR",           7,  2, 6}, // the strip follows
-        { 7,  7, "LLLLL",            2,  2, 1},
-        { 7,  7, "LLLLLL",           1,  1, 1},
-        { 7,  1, ">6",               7,  2, 6},
-        {40, 20, "}",               20, 26, 0},
-        {40, 20, "}}}}",            20, 35, 0},
-        {40, 20, "<",               20, 19, 2},
-        {40, 20, "{{{{",            20,  1, 0},
-        {40, 20, "[",               20,  1, 0},
-        {40, 20, "[6",               6,  1, 6},
-        {40, 20, "]R",              21, 35, 0}, // left of what is seen: a step right scrolls nothing
-        {40, 20, "]L",              19, 34, 0}, // one step each
-        {40, 20, "[R",              21,  2, 0},
-        {40, 20, ">L",              19, 20, 0},
+        { 0,  5, "",             1,  1, 0},
+        { 3,  3, "",             3,  1, 3},
+        { 6,  6, "",             6,  1, 6},
+        { 7,  1, "",             1,  1, 1},
+        { 7,  7, "",             7,  2, 6},
+        {40, 20, "",            20, 20, 1},
+        {40, 36, "",            36, 35, 2},
+        {40, 99, "",            40, 35, 6},
+        {40,  0, "",             1,  1, 1},
+        {32767, 32767, "",   32767, 32762, 6},
+        { 0,  1, "LR16<>]}",     1,  1, 0},
+        { 3,  1, "5",            3,  1, 3}, // a slot without an icon
+        { 3,  1, "2",            2,  1, 2},
+        { 3,  1, "L",            1,  1, 1},
+        { 3,  3, "R",            3,  1, 3},
+        { 3,  1, "]",            1,  1, 1},
+        { 7,  1, "RRRRR",        6,  1, 6},
+        { 7,  1, "RRRRRR",       7,  2, 6}, // the strip follows
+        { 7,  7, "LLLLL",        2,  2, 1},
+        { 7,  7, "LLLLLL",       1,  1, 1},
+        { 7,  1, ">6",           7,  2, 6},
+        {40, 20, "}",           20, 26, 0},
+        {40, 20, "}}}}",        20, 35, 0},
+        {40, 20, "<",           20, 19, 2},
+        {40, 20, "{{{{",        20,  1, 0},
+        {40, 20, "[6",           6,  1, 6},
+        {40, 20, "]R",          21, 35, 0}, // left of what is seen: a step right scrolls nothing
+        {40, 20, "]L",          19, 34, 0}, // one step each
+        {40, 20, "[R",          21,  2, 0},
+        {40, 20, ">L",          19, 20, 0},
     };
     // clang-format on
     for (const Row& row : rows) {
         SCOPED_TRACE(std::string(row.moves) + " with " + std::to_string(row.count));
-        std::string moves(row.moves);
-        std::erase(moves, ' ');
-        const IconStrip strip = Play(OpenStrip(row.count, row.wanted), moves);
+        const IconStrip strip = Play(OpenStrip(row.count, row.wanted), row.moves);
         EXPECT_EQ(strip, (IconStrip{row.count, row.selected, row.scroll}));
         EXPECT_EQ(SelectedSlot(strip).value_or(0), row.slot);
+        EXPECT_EQ(NeedsScrollBar(row.count), row.count > 6);
     }
 }
 

@@ -1,7 +1,5 @@
 #pragma once
-#include <string>
-#include <string_view>
-#include <vector>
+#include "tests/support/Scratch.h"
 
 // What a stand-in wrote down when it was started.
 struct Start {
@@ -17,42 +15,30 @@ struct Start {
 class DemoSuite {
   public:
     DemoSuite();
-    ~DemoSuite();
-    DemoSuite(const DemoSuite&) = delete;
-    DemoSuite& operator=(const DemoSuite&) = delete;
 
     // Folders, each with a backslash at its end.
     const std::wstring& Folder() const { return folder_; }
-    std::wstring Settings() const { return folder_ + L"Settings\\"; }
+    std::wstring Settings() const { return Folder() + L"Settings\\"; }
 
-    // Copies the product's icons into the suite; without them the icon picker has nothing to show.
-    void AddIcons() const;
-    // Copies the product's samples into the suite.
-    void AddSamples() const;
+    // Copies the product's icons or samples into the suite; without them there is nothing to choose from.
+    void AddIcons() const { CopyAll(L"Icons\\"); }
+    void AddSamples() const { CopyAll(L"Samples\\"); }
+    void AddDialogs() const; // the program that shows the small windows by themselves
 
     // What `program` (a file name such as L"VConfig.exe") was started with so far, the oldest first.
-    std::vector<Start> Starts(const wchar_t* program) const;
+    std::vector<Start> Starts(const std::wstring& program) const;
     // Waits until `program` has been started `count` times.
-    std::vector<Start> WaitForStarts(const wchar_t* program, std::size_t count = 1) const;
+    std::vector<Start> WaitForStarts(const std::wstring& program, std::size_t count = 1) const;
     // How often any stand-in was started.
     std::size_t StartCount() const;
 
     // A program of this suite as it stands in a command line: quoted, with its folder.
-    std::wstring Quoted(std::wstring_view file) const { return L'"' + folder_ + std::wstring(file) + L'"'; }
-
+    std::wstring Quoted(std::wstring_view file) const { return L'"' + Folder() + std::wstring(file) + L'"'; }
     // A key of the suite's settings file, "" when it is absent.
-    std::wstring Setting(const wchar_t* key, const wchar_t* section = L"General") const;
-    void SetSetting(const wchar_t* key, const wchar_t* value, const wchar_t* section = L"General") const;
+    std::wstring Setting(const wchar_t* key) const;
 
   private:
-    std::wstring folder_;
+    void CopyAll(const std::wstring& part) const; // beside the wizard under test
+
+    const ScratchFolder folder_;
 };
-
-// The names in `folder` (backslash at its end) that match, sorted; folders included.
-std::vector<std::wstring> FileNames(const std::wstring& folder, const wchar_t* pattern = L"*");
-
-// The bytes of a file; throws when it cannot be read.
-std::string FileBytes(const std::wstring& path);
-void WriteFileBytes(const std::wstring& path, std::string_view bytes);
-
-std::string Utf8(std::wstring_view text);

@@ -13,8 +13,6 @@ class FormUnderTest {
         form.PageNo = page;
         form.ShowPage();
     }
-    // The page numbers of the mode, in order.
-    std::vector<std::int16_t> Pages() const;
     // The controls that the page shows, in tab order.
     std::vector<HWND> VisibleControls() const;
 
@@ -23,4 +21,14 @@ class FormUnderTest {
 };
 
 std::wstring ClassOf(HWND window);
+// What a screen reader is told.
+struct Spoken {
+    std::wstring name;
+    LONG role = 0;
+};
+Spoken SpokenOf(HWND control);
+
 bool IsTabStop(HWND control); // may take the focus by Tab
+
+// The text of a control and the look of each character, noted as MemoryRichText does.
+std::wstring Described(win::RichText& control, const wchar_t* lineEnd = L"/");

@@ -2,12 +2,14 @@
 
 #include "app/Files.h"
 #include "app/Settings.h"
-#include "tests/support/DemoSuite.h"
 
+#include <algorithm>
 #include <stdexcept>
 #include <thread>
 
 namespace {
+
+constexpr int kBoxText = 65535; // the id of a message box's text
 
 std::wstring UniqueName() {
     static int count = 0;
@@ -20,15 +22,22 @@ std::wstring TextOf(HWND window) {
     return text;
 }
 
-BOOL CALLBACK FindBox(HWND window, LPARAM found) {
-    DWORD process = 0;
-    wchar_t name[16] = L"";
-    GetWindowThreadProcessId(window, &process);
-    GetClassNameW(window, name, 16);
-    const bool box =
-        process == GetCurrentProcessId() && IsWindowVisible(window) && name == std::wstring(L"#32770");
-    if (box) *reinterpret_cast<HWND*>(found) = window;
-    return !box;
+// Of this process: other tests may run beside this one.
+HWND OwnBox() {
+    HWND box = nullptr;
+    while ((box = FindWindowExW(nullptr, box, L"#32770", nullptr)) != nullptr) {
+        DWORD process = 0;
+        GetWindowThreadProcessId(box, &process);
+        if (process == GetCurrentProcessId() && IsWindowVisible(box)) return box;
+    }
+    return nullptr;
+}
+
+// The button asked for, or any one that lets the program go on.
+HWND ButtonOf(HWND box, int wanted) {
+    for (const int id : {wanted, IDOK, IDNO, IDCANCEL})
+        if (HWND button = GetDlgItem(box, id)) return button;
+    return nullptr;
 }
 
 // A file or a folder with all in it; read-only files too, which the shell leaves.
@@ -40,19 +49,74 @@ void Remove(const std::wstring& path) {
     RemoveDirectoryW(path.c_str());
 }
 
-win::UniqueKernelHandle Open(const std::wstring& path, DWORD access) {
-    const HANDLE file = CreateFileW(path.c_str(), access, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+win::UniqueKernelHandle Open(const std::wstring& path, DWORD access, DWORD share = 0,
+                             DWORD how = OPEN_EXISTING) {
+    const HANDLE file =
+        CreateFileW(path.c_str(), access, share, nullptr, how, FILE_ATTRIBUTE_NORMAL, nullptr);
     return win::UniqueKernelHandle(file == INVALID_HANDLE_VALUE ? nullptr : file);
 }
 
-// The button asked for, or any one that lets the program go on.
-HWND ButtonOf(HWND box, int wanted) {
-    for (const int id : {wanted, IDOK, IDNO, IDCANCEL})
-        if (HWND button = GetDlgItem(box, id)) return button;
-    return nullptr;
+} // namespace
+
+void Fail(const std::wstring& what) { throw std::runtime_error(Utf8(what)); }
+
+std::vector<std::wstring> FileNames(const std::wstring& folder, const wchar_t* pattern) {
+    std::vector<std::wstring> names;
+    WIN32_FIND_DATAW data{};
+    const win::UniqueFind search(FindFirstFileW((folder + pattern).c_str(), &data));
+    if (search.Get() == INVALID_HANDLE_VALUE) return names;
+    do
+        if (const std::wstring name = data.cFileName; name != L"." && name != L"..") names.push_back(name);
+    while (FindNextFileW(search.Get(), &data));
+    std::sort(names.begin(), names.end());
+    return names;
 }
 
-} // namespace
+std::string FileBytes(const std::wstring& path) {
+    const auto file = Open(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE);
+    if (!file) Fail(L"cannot read " + path);
+    std::string bytes(GetFileSize(file.Get(), nullptr), '\0');
+    DWORD read = 0;
+    if (!ReadFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr) ||
+        read != bytes.size())
+        Fail(L"cannot read all of " + path);
+    return bytes;
+}
+
+void WriteFileBytes(const std::wstring& path, std::string_view bytes) {
+    const auto file = Open(path, GENERIC_WRITE, 0, CREATE_ALWAYS);
+    DWORD written = 0;
+    if (file) WriteFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+    if (!file || written != bytes.size()) Fail(L"cannot write " + path);
+}
+
+std::string Utf8(std::wstring_view text) {
+    const int size = static_cast<int>(text.size());
+    std::string bytes(text.size() * 3, '\0');
+    bytes.resize(static_cast<std::size_t>(
+        WideCharToMultiByte(CP_UTF8, 0, text.data(), size, bytes.data(), size * 3, nullptr, nullptr)));
+    return bytes;
+}
+
+std::wstring FromUtf8(std::string_view bytes) {
+    const int size = static_cast<int>(bytes.size());
+    std::wstring text(bytes.size(), L'\0');
+    text.resize(
+        static_cast<std::size_t>(MultiByteToWideChar(CP_UTF8, 0, bytes.data(), size, text.data(), size)));
+    return text;
+}
+
+std::wstring TestFolder() {
+    std::wstring path(MAX_PATH, L'\0');
+    path.resize(GetModuleFileNameW(nullptr, path.data(), MAX_PATH));
+    return path.substr(0, path.rfind(L'\\') + 1);
+}
+
+void SetRegText(HKEY root, const std::wstring& key, const wchar_t* value, const std::wstring& text) {
+    const auto bytes = static_cast<DWORD>((text.size() + 1) * sizeof text[0]);
+    if (RegSetKeyValueW(root, key.c_str(), value, REG_SZ, text.c_str(), bytes) != ERROR_SUCCESS)
+        Fail(L"cannot write the registry key " + key);
+}
 
 ScratchFolder::ScratchFolder() {
     std::wstring temp(MAX_PATH, L'\0');
@@ -60,13 +124,12 @@ ScratchFolder::ScratchFolder() {
     const std::wstring folder = temp + UniqueName();
     Remove(folder); // left by a run that broke off
     path_ = folder + L"\\";
-    if (!CreateDirectoryW(path_.c_str(), nullptr)) throw std::runtime_error("no scratch folder");
+    if (!CreateDirectoryW(path_.c_str(), nullptr)) Fail(L"no scratch folder");
 }
 
 ScratchFolder::~ScratchFolder() { Remove(path_.substr(0, path_.size() - 1)); }
 
-ScratchSuite::ScratchSuite()
-    : settings_(locations.SettingsPath), ini_(locations.IniFile), program_(locations.AppPath) {
+ScratchSuite::ScratchSuite() {
     locations.SettingsPath = locations.AppPath = Path();
     locations.IniFile = Path() + kIniName;
 }
@@ -78,26 +141,8 @@ ScratchSuite::~ScratchSuite() {
     locations.AppPath = program_;
 }
 
-void ScratchSuite::Ini(std::string_view bytes) const { WriteFileBytes(locations.IniFile, bytes); }
-std::string ScratchSuite::Ini() const { return FileBytes(locations.IniFile); }
-
-void ScratchSuite::AddStandIn(const std::wstring& file) const {
-    std::wstring own(MAX_PATH, L'\0');
-    own.resize(GetModuleFileNameW(nullptr, own.data(), MAX_PATH));
-    const std::wstring standIn = own.substr(0, own.rfind(L'\\') + 1) + L"standin.exe";
-    if (!CopyFileW(standIn.c_str(), (Path() + file).c_str(), FALSE)) throw std::runtime_error("no stand-in");
-}
-
-std::string ScratchSuite::StartsOf(const std::wstring& file) const {
-    const std::wstring log = Path() + file + L".log";
-    for (int i = 0; i < 2000 && FileSize(log).value_or(0) == 0; ++i)
-        Sleep(5);
-    return FileBytes(log);
-}
-
 ScratchKey::ScratchKey() : path_(L"Software\\" + UniqueName()) {
-    if (RegCreateKeyW(HKEY_CURRENT_USER, path_.c_str(), &key_) != ERROR_SUCCESS)
-        throw std::runtime_error("no scratch key");
+    if (RegCreateKeyW(HKEY_CURRENT_USER, path_.c_str(), &key_) != ERROR_SUCCESS) Fail(L"no scratch key");
 }
 
 ScratchKey::~ScratchKey() {
@@ -105,13 +150,13 @@ ScratchKey::~ScratchKey() {
     RegDeleteTreeW(HKEY_CURRENT_USER, path_.c_str());
 }
 
-void ScratchKey::Set(const char* name, DWORD type, std::string_view bytes) const {
+void ScratchKey::Set(const std::string& name, DWORD type, std::string_view bytes) const {
     const std::string guarded = std::string(bytes) + "#"; // else the call counts a NUL that follows
-    RegSetValueExA(key_, name, 0, type, reinterpret_cast<const BYTE*>(guarded.data()),
+    RegSetValueExA(key_, name.c_str(), 0, type, reinterpret_cast<const BYTE*>(guarded.data()),
                    static_cast<DWORD>(bytes.size()));
 }
 
-void ScratchKey::SetWide(const std::wstring& name, DWORD type, std::wstring_view text) const {
+void ScratchKey::Set(const std::wstring& name, DWORD type, std::wstring_view text) const {
     RegSetValueExW(key_, name.c_str(), 0, type, reinterpret_cast<const BYTE*>(text.data()),
                    static_cast<DWORD>(text.size() * sizeof text[0]));
 }
@@ -131,18 +176,16 @@ bool ReadOnlyStops() {
     return !Open(folder.Path() + L"a", GENERIC_WRITE);
 }
 
-std::vector<Box> Answering(std::initializer_list<int> buttons, const std::function<void()>& act) {
-    std::vector<Box> boxes;
+std::vector<std::wstring> Answering(std::initializer_list<int> buttons, const std::function<void()>& act) {
+    std::vector<std::wstring> boxes;
     std::jthread answering([&](const std::stop_token& over) {
         while (!over.stop_requested()) {
-            HWND box = nullptr;
-            EnumWindows(FindBox, reinterpret_cast<LPARAM>(&box));
+            const HWND box = OwnBox();
             const int wanted = boxes.size() < buttons.size() ? buttons.begin()[boxes.size()] : IDOK;
-            HWND button = box ? ButtonOf(box, wanted) : nullptr;
+            const HWND button = box ? ButtonOf(box, wanted) : nullptr;
             Sleep(1);
             if (!button) continue;
-            HWND text = GetDlgItem(box, 65535);
-            boxes.push_back({TextOf(box), text ? TextOf(text) : L""});
+            boxes.push_back(TextOf(box) + L"\r\n" + TextOf(GetDlgItem(box, kBoxText)));
             PostMessageW(button, BM_CLICK, 0, 0);
             while (!over.stop_requested() && IsWindowVisible(box))
                 Sleep(1);

@@ -1,7 +1,7 @@
 #pragma once
 
-// What a test in this process may spoil: a folder, a registry key, the suite's locations and the message
-// boxes that the program opens. All of it is put back or removed at the end of the test.
+// What a test may spoil: a folder, a registry key, the suite's locations and the message boxes that the
+// program opens. All of it is put back or removed at the end of the test.
 
 #include "app/modLocations.h"
 #include "win/Handles.h"
@@ -13,6 +13,20 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+// Files. What cannot be done throws std::runtime_error.
+std::vector<std::wstring> FileNames(const std::wstring& folder, const wchar_t* pattern = L"*"); // sorted
+std::string FileBytes(const std::wstring& path);
+void WriteFileBytes(const std::wstring& path, std::string_view bytes);
+
+std::string Utf8(std::wstring_view text);
+std::wstring FromUtf8(std::string_view bytes);
+std::wstring TestFolder(); // of the test program, backslash at its end
+
+[[noreturn]] void Fail(const std::wstring& what); // throws std::runtime_error
+
+// Text values only; the key is made.
+void SetRegText(HKEY root, const std::wstring& key, const wchar_t* value, const std::wstring& text);
 
 class ScratchFolder {
   public:
@@ -34,14 +48,12 @@ class ScratchSuite : public ScratchFolder {
     ScratchSuite();
     ~ScratchSuite();
     // The settings file, with these bytes.
-    void Ini(std::string_view bytes) const;
-    std::string Ini() const;
-    // A stand-in for a companion program, and what it wrote down about its starts (waits for the first).
-    void AddStandIn(const std::wstring& file) const;
-    std::string StartsOf(const std::wstring& file) const;
+    void Ini(std::string_view bytes) const { WriteFileBytes(locations.IniFile, bytes); }
+    std::string Ini() const { return FileBytes(locations.IniFile); }
 
   private:
-    std::wstring settings_, ini_, program_;
+    const std::wstring settings_ = locations.SettingsPath, ini_ = locations.IniFile,
+                       program_ = locations.AppPath;
 };
 
 class ScratchKey {
@@ -52,9 +64,9 @@ class ScratchKey {
     ScratchKey& operator=(const ScratchKey&) = delete;
 
     const std::wstring& Path() const { return path_; } // below HKEY_CURRENT_USER
-    // Just these bytes: no NUL is added to a text.
-    void Set(const char* name, DWORD type, std::string_view bytes) const;
-    void SetWide(const std::wstring& name, DWORD type, std::wstring_view text) const;
+    // Just these bytes, of 8-bit or of wide characters: no NUL is added to a text.
+    void Set(const std::string& name, DWORD type, std::string_view bytes) const;
+    void Set(const std::wstring& name, DWORD type, std::wstring_view text) const;
 
   private:
     std::wstring path_;
@@ -69,10 +81,6 @@ win::UniqueKernelHandle Spoil(const std::wstring& path, Spoilt how);
 // Whether the read-only attribute stops this user's writes: not root's, for one.
 bool ReadOnlyStops();
 
-struct Box {
-    std::wstring title, text;
-};
-
 // Runs `act` while another thread presses `buttons` (IDOK, IDYES ...), one in each box that this process
-// opens, in this order, and returns the boxes seen. One box too many is closed all the same.
-std::vector<Box> Answering(std::initializer_list<int> buttons, const std::function<void()>& act);
+// opens, in this order, and returns the boxes seen: title, line end, text. One box too many is closed, too.
+std::vector<std::wstring> Answering(std::initializer_list<int> buttons, const std::function<void()>& act);

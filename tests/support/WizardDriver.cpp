@@ -4,41 +4,20 @@
 
 #include <stdexcept>
 
+using driver::Ask;
+using driver::TextOf;
+
 namespace {
 
 constexpr DWORD kPatience = 20000; // milliseconds for one step
 constexpr UINT kAnswerTime = 10000;
+constexpr int kHeadingId = 120;
 constexpr int kBoxText = 65535; // the id of a message box's text
-
-// false when the window has gone; a window that hangs is a failure.
-bool TryToAsk(HWND window, UINT message, WPARAM wParam, LPARAM lParam, DWORD_PTR& result) {
-    if (SendMessageTimeoutW(window, message, wParam, lParam, SMTO_ABORTIFHUNG, kAnswerTime, &result))
-        return true;
-    if (!IsWindow(window)) return false;
-    throw std::runtime_error("a control did not answer message " + std::to_string(message));
-}
-
-DWORD_PTR Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
-    DWORD_PTR result = 0;
-    if (!TryToAsk(window, message, wParam, lParam, result))
-        throw std::runtime_error("a control has gone before message " + std::to_string(message));
-    return result;
-}
 
 std::wstring ClassOf(HWND window) {
     std::wstring name(256, L'\0');
     name.resize(static_cast<std::size_t>(GetClassNameW(window, name.data(), 256)));
     return name;
-}
-
-// "" for a window that has gone meanwhile.
-std::wstring TextOf(HWND window) {
-    DWORD_PTR length = 0, copied = 0;
-    if (!TryToAsk(window, WM_GETTEXTLENGTH, 0, 0, length)) return {};
-    std::wstring text(length + 1, L'\0');
-    if (!TryToAsk(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()), copied)) return {};
-    text.resize(copied);
-    return text;
 }
 
 BOOL CALLBACK Collect(HWND window, LPARAM data) {
@@ -65,43 +44,47 @@ std::vector<HWND> WindowsOf(DWORD processId) {
     return windows;
 }
 
-HWND FindButton(HWND window, const wchar_t* caption) {
-    for (HWND control : ControlsOf(window))
-        if (ClassOf(control) == L"Button" && TextOf(control) == caption) return control;
-    return nullptr;
+} // namespace
+
+DWORD_PTR driver::Ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    DWORD_PTR result = 0;
+    if (!SendMessageTimeoutW(window, message, wParam, lParam, SMTO_ABORTIFHUNG, kAnswerTime, &result))
+        Fail(L"a control did not answer message " + std::to_wstring(message));
+    return result;
 }
 
-bool IsChecked(HWND button) { return Ask(button, BM_GETCHECK) == BST_CHECKED; }
+std::wstring driver::TextOf(HWND window) {
+    try {
+        std::wstring text(Ask(window, WM_GETTEXTLENGTH) + 1, L'\0');
+        text.resize(Ask(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data())));
+        return text;
+    } catch (const std::runtime_error&) {
+        if (IsWindow(window)) throw;
+        return {};
+    }
+}
 
-// A click goes through the message queue, so that a modal window that it opens does not hold up the test.
-void Press(HWND button) { PostMessageW(button, BM_CLICK, 0, 0); }
-
-void Notify(HWND control, WORD code) {
+void driver::Notify(HWND control, WORD code) {
     const auto id = static_cast<WORD>(GetDlgCtrlID(control));
     Ask(GetParent(control), WM_COMMAND, MAKEWPARAM(id, code), reinterpret_cast<LPARAM>(control));
 }
 
-} // namespace
-
-WizardDriver::WizardDriver(const DemoSuite& suite, const wchar_t* arguments, Wait wait) {
+WizardDriver::WizardDriver(const DemoSuite& suite, const std::wstring& arguments, Wait wait,
+                           const std::wstring& program) {
     STARTUPINFOW startup{};
     startup.cb = sizeof startup;
-    std::wstring line = suite.Quoted(L"VWizard.exe") + L" " + arguments;
+    std::wstring line = suite.Quoted(program) + L" " + arguments;
     if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
                         &process_))
-        throw std::runtime_error("cannot start " + Utf8(line));
+        Fail(L"cannot start " + line);
     if (wait == Wait::Yes) WaitForOpening();
 }
 
 void WizardDriver::WaitForOpening() {
-    Until(
-        [this] {
-            for (HWND window : WindowsOf(ProcessId()))
-                if (ClassOf(window).starts_with(L"VWizard")) window_ = window;
-            return window_ != nullptr && PageText() != L"Initializing..." &&
-                   (Has(L"Cancel") || Has(L"&Close"));
-        },
-        L"the wizard's window");
+    Until([this] { return (window_ = FindWindowOf(L"VWizardForm", L"", 0)) != nullptr; },
+          L"the wizard's window");
+    Until([this] { return PageText() != L"Initializing..." && (Button(L"Cancel") || Button(L"&Close")); },
+          L"the first page");
 }
 
 WizardDriver::~WizardDriver() {
@@ -114,17 +97,12 @@ WizardDriver::~WizardDriver() {
 }
 
 void WizardDriver::Until(const std::function<bool()>& condition, const std::wstring& wanted) const {
-    const DWORD start = GetTickCount();
-    while (!condition()) {
-        if (GetTickCount() - start > kPatience)
-            throw std::runtime_error(Utf8(L"waited in vain for: " + wanted + L"\n" + Describe()));
-        Sleep(2);
-    }
+    for (const DWORD start = GetTickCount(); !condition(); Sleep(2))
+        if (GetTickCount() - start > kPatience) Fail(L"waited in vain for: " + wanted + L"\n" + Describe());
 }
 
 std::wstring WizardDriver::Describe() const {
-    if (!IsRunning()) return L"the wizard has ended\n";
-    std::wstring text;
+    std::wstring text = IsRunning() ? L"" : L"the wizard has ended\n";
     for (HWND window : WindowsOf(ProcessId())) {
         text += ClassOf(window) + L" \"" + TextOf(window) + L"\"\n";
         for (HWND control : ControlsOf(window))
@@ -133,177 +111,83 @@ std::wstring WizardDriver::Describe() const {
     return text;
 }
 
-void WizardDriver::WaitForPage(const wchar_t* heading) const {
-    Until([&] { return IsWindowEnabled(window_) && ShowsText(heading); },
-          std::wstring(L"the page ") + heading);
+std::wstring WizardDriver::Heading() const { return TextOf(GetDlgItem(window_, kHeadingId)); }
+
+void WizardDriver::WaitForPage(const std::wstring& heading) const {
+    Until([&] { return IsWindowEnabled(window_) && Heading() == heading; }, L"the page " + heading);
     Ask(window_, WM_NULL); // answered when the page is complete
-}
-
-bool WizardDriver::ShowsText(const wchar_t* text) const {
-    for (HWND control : ControlsOf(window_))
-        if (ClassOf(control) == L"Static" && TextOf(control) == text) return true;
-    return false;
-}
-
-std::wstring WizardDriver::Step() const {
-    for (HWND control : ControlsOf(window_))
-        if (std::wstring text = TextOf(control); ClassOf(control) == L"Static" && text.starts_with(L"Step "))
-            return text;
-    return {};
 }
 
 std::wstring WizardDriver::PageText() const {
     for (HWND control : ControlsOf(window_))
-        if (ClassOf(control).starts_with(L"RichEdit") || ClassOf(control).starts_with(L"RICHEDIT"))
-            return TextOf(control);
+        if (ClassOf(control).starts_with(L"RichEdit")) return TextOf(control);
     return {};
 }
 
-bool WizardDriver::Has(const wchar_t* caption) const { return FindButton(window_, caption) != nullptr; }
-
-bool WizardDriver::IsEnabled(const wchar_t* caption) const {
-    return IsWindowEnabled(FindButton(window_, caption)) != FALSE;
-}
-
-bool WizardDriver::IsChecked(const wchar_t* caption) const {
-    HWND button = FindButton(window_, caption);
-    if (button == nullptr) throw std::runtime_error(Utf8(std::wstring(L"not on the page: ") + caption));
-    return ::IsChecked(button);
-}
-
-void WizardDriver::Click(const wchar_t* caption) const {
-    Until([&] { return IsWindowEnabled(window_) && IsEnabled(caption); },
-          std::wstring(L"a button ") + caption);
-    Press(FindButton(window_, caption));
-}
-
-void WizardDriver::Choose(const wchar_t* caption) const {
-    Click(caption);
-    Until([&] { return IsChecked(caption); }, std::wstring(L"the choice of ") + caption);
-}
-
-void WizardDriver::Check(const wchar_t* caption, bool on) const {
-    if (IsChecked(caption) != on) Click(caption);
-    Until([&] { return IsChecked(caption) == on; }, std::wstring(L"a change of ") + caption);
-}
-
-void WizardDriver::Next(const wchar_t* heading) const {
-    Click(Has(L"&Create") ? L"&Create" : L"&Next >");
+void WizardDriver::Next(const std::wstring& heading) const {
+    Press(Button(L"&Create") ? L"&Create" : L"&Next >");
     WaitForPage(heading);
 }
 
-void WizardDriver::Back(const wchar_t* heading) const {
-    Click(L"< Back");
-    WaitForPage(heading);
+// A click goes through the message queue, so that a modal window that it opens does not hold up the test.
+void WizardDriver::Press(const std::wstring& caption) const {
+    Until([&] { return IsWindowEnabled(window_) && IsWindowEnabled(Button(caption)); },
+          L"a button " + caption);
+    PostMessageW(Button(caption), BM_CLICK, 0, 0);
 }
 
-HWND WizardDriver::Input(const wchar_t* className, const wchar_t* prompt) const {
+HWND WizardDriver::Find(const std::wstring& className, const std::wstring& text) const {
+    for (HWND control : ControlsOf(window_))
+        if (ClassOf(control) == className && TextOf(control) == text) return control;
+    return nullptr;
+}
+
+HWND WizardDriver::Input(const std::wstring& className, const std::wstring& prompt) const {
     HWND found = nullptr;
-    Until(
-        [&] {
-            bool behind = *prompt == L'\0';
-            for (HWND control : ControlsOf(window_)) {
-                if (!behind)
-                    behind = TextOf(control) == prompt;
-                else if (ClassOf(control) == className) {
-                    found = control;
-                    return true;
-                }
-            }
-            return false;
-        },
-        std::wstring(className) + L" behind " + prompt);
+    const auto look = [&] {
+        bool behind = prompt.empty();
+        for (HWND control : ControlsOf(window_)) {
+            if (behind && ClassOf(control) == className) return (found = control) != nullptr;
+            behind = behind || TextOf(control) == prompt;
+        }
+        return false;
+    };
+    Until(look, className + L" behind " + prompt);
     return found;
 }
 
-void WizardDriver::Type(const wchar_t* prompt, const std::wstring& text) const {
-    HWND box = Input(L"Edit", prompt);
-    Ask(box, EM_SETSEL, 0, -1);
-    Ask(box, WM_CLEAR);
-    for (const wchar_t c : text)
-        Ask(box, WM_CHAR, c);
-}
-
-std::wstring WizardDriver::Typed(const wchar_t* prompt) const { return TextOf(Input(L"Edit", prompt)); }
-
-void WizardDriver::Select(const wchar_t* prompt, int index) const {
-    HWND input = Input(L"ComboBox", prompt);
-    Ask(input, CB_SETCURSEL, static_cast<WPARAM>(index));
-    Notify(input, CBN_SELCHANGE);
-}
-
-int WizardDriver::Selected(const wchar_t* prompt) const {
-    return static_cast<int>(Ask(Input(L"ComboBox", prompt), CB_GETCURSEL));
-}
-
-std::wstring WizardDriver::SelectedText(const wchar_t* prompt) const {
-    return TextOf(Input(L"ComboBox", prompt));
-}
-
-void WizardDriver::SelectInList(const wchar_t* prompt, int index) const {
-    HWND list = Input(L"ListBox", prompt);
-    Ask(list, LB_SETCURSEL, static_cast<WPARAM>(index));
-    Notify(list, LBN_SELCHANGE);
-}
-
-void WizardDriver::MarkInList(int index, bool on) const {
-    HWND list = Input(L"ListBox", L"");
-    Ask(list, LB_SETSEL, on ? TRUE : FALSE, index);
-    Notify(list, LBN_SELCHANGE);
-}
-
-std::vector<std::wstring> WizardDriver::ListItems() const {
-    HWND list = Input(L"ListBox", L"");
-    std::vector<std::wstring> items(Ask(list, LB_GETCOUNT));
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        items[i].resize(Ask(list, LB_GETTEXTLEN, i) + 1);
-        items[i].resize(Ask(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(items[i].data())));
-    }
-    return items;
-}
-
-bool WizardDriver::HasFocus(HWND control) const {
+HWND WizardDriver::Focus() const {
     GUITHREADINFO info{};
     info.cbSize = sizeof info;
-    return GetGUIThreadInfo(GetWindowThreadProcessId(window_, nullptr), &info) && info.hwndFocus == control;
+    GetGUIThreadInfo(GetWindowThreadProcessId(window_, nullptr), &info);
+    return info.hwndFocus;
 }
 
-WizardDriver::Box WizardDriver::AnswerBox(int button) const {
+// With a child of that id, unless it is 0; "" fits every class and every title.
+HWND WizardDriver::FindWindowOf(const std::wstring& className, const std::wstring& title, int child) const {
+    for (HWND window : WindowsOf(ProcessId()))
+        if ((className.empty() || ClassOf(window) == className) &&
+            (title.empty() || TextOf(window) == title) && (child == 0 || GetDlgItem(window, child)))
+            return window;
+    return nullptr;
+}
+
+std::wstring WizardDriver::AnswerBox(int button) const {
     HWND box = nullptr;
-    Until(
-        [&] {
-            for (HWND window : WindowsOf(ProcessId()))
-                if (ClassOf(window) == L"#32770" && GetDlgItem(window, button) != nullptr) box = window;
-            return box != nullptr;
-        },
-        L"a message box with button " + std::to_wstring(button));
-    HWND text = GetDlgItem(box, kBoxText);
-    Box answer{TextOf(box), text != nullptr ? TextOf(text) : L""};
-    Press(GetDlgItem(box, button));
-    Until([box] { return !IsWindow(box) || !IsWindowVisible(box); },
-          L"the message box to go: " + answer.text);
-    return answer;
+    Until([&] { return (box = FindWindowOf(L"#32770", L"", button)) != nullptr; },
+          L"a message box with button " + std::to_wstring(button));
+    const HWND label = GetDlgItem(box, kBoxText);
+    const std::wstring text = TextOf(box) + L"\r\n" + (label ? TextOf(label) : L"");
+    PostMessageW(GetDlgItem(box, button), BM_CLICK, 0, 0);
+    Until([box] { return !IsWindow(box) || !IsWindowVisible(box); }, L"the message box to go: " + text);
+    return text;
 }
 
-HWND WizardDriver::WaitForWindow(const wchar_t* title) const {
+void WizardDriver::GoTo(const std::wstring& title) {
     HWND found = nullptr;
-    Until(
-        [&] {
-            for (HWND window : WindowsOf(ProcessId()))
-                if (TextOf(window) == title) found = window;
-            return found != nullptr;
-        },
-        std::wstring(L"a window ") + title);
-    return found;
+    Until([&] { return (found = FindWindowOf(L"", title, 0)) != nullptr; }, L"a window " + title);
+    window_ = found;
 }
-
-void WizardDriver::ClickIn(HWND window, const wchar_t* caption) {
-    HWND button = FindButton(window, caption);
-    if (button == nullptr) throw std::runtime_error(Utf8(std::wstring(L"no button ") + caption));
-    Press(button);
-}
-
-void WizardDriver::AskToClose() const { PostMessageW(window_, WM_CLOSE, 0, 0); }
 
 int WizardDriver::WaitForExit() const {
     Until([this] { return !IsRunning(); }, L"the end of the wizard");

@@ -5,22 +5,13 @@
 TEST(Twips, Pixels) {
     const struct {
         int twips, at96, at120, at144, at192;
-    } rows[] = {{0, 0, 0, 0, 0},
-                {1, 0, 0, 0, 0},
-                {7, 0, 1, 1, 1},
-                {8, 1, 1, 1, 1},
-                {15, 1, 1, 2, 2},
-                {-8, -1, -1, -1, -1},
-                {-7, 0, -1, -1, -1},
-                {1440, 96, 120, 144, 192},
-                {1560, 104, 130, 156, 208},
-                {7500, 500, 625, 750, 1000}};
+    } rows[] = {{1, 0, 0, 0, 0},      {7, 0, 1, 1, 1},     {8, 1, 1, 1, 1},
+                {-8, -1, -1, -1, -1}, {-7, 0, -1, -1, -1}, {1560, 104, 130, 156, 208}};
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.twips);
-        EXPECT_EQ(win::ToPixels({row.twips}, 96), row.at96);
-        EXPECT_EQ(win::ToPixels({row.twips}, 120), row.at120);
-        EXPECT_EQ(win::ToPixels({row.twips}, 144), row.at144);
-        EXPECT_EQ(win::ToPixels({row.twips}, 192), row.at192);
+        EXPECT_EQ(win::ToPixels({row.twips}, 96), row.at96) << row.twips;
+        EXPECT_EQ(win::ToPixels({row.twips}, 120), row.at120) << row.twips;
+        EXPECT_EQ(win::ToPixels({row.twips}, 144), row.at144) << row.twips;
+        EXPECT_EQ(win::ToPixels({row.twips}, 192), row.at192) << row.twips;
     }
 }
 

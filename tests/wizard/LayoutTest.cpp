@@ -4,15 +4,13 @@
 #include "wizard/Layout.h"
 #include "app/StartUp.h"
 #include "ndw/NdwPages.h"
-#include "tests/support/DemoSuite.h"
 #include "tests/support/FormUnderTest.h"
+#include "tests/support/Scratch.h"
 #include "win/Fonts.h"
 #include "win/Screen.h"
 #include "wizard/PermissionPage.h"
 
 #include <gtest/gtest.h>
-
-#include <objbase.h>
 
 #include <algorithm>
 
@@ -135,14 +133,7 @@ void ExpectPage(FormUnderTest& test, bool scrolls = false) {
     }
 }
 
-class Layout : public testing::TestWithParam<std::int16_t> {
-  protected:
-    Layout() { CoInitialize(nullptr); }
-    ~Layout() override {
-        startUp.ConfigLaunch = false;
-        CoUninitialize();
-    }
-};
+class Layout : public testing::TestWithParam<std::int16_t> {};
 
 } // namespace
 
@@ -163,11 +154,11 @@ TEST_P(Layout, EveryPage) {
     answers.suffixChoice = 31;
     answers.receiveNamingIndex = 7;
     for (const bool launched : {false, true})
-        for (const std::int16_t page : test.Pages()) {
-            SCOPED_TRACE("mode " + std::to_string(GetParam()) + ", page " + std::to_string(page) + " at " +
-                         std::to_string(win::Dpi()) + " DPI");
+        for (const Page& page : test.book.pages) {
+            SCOPED_TRACE("mode " + std::to_string(GetParam()) + ", page " + std::to_string(page.number) +
+                         " at " + std::to_string(win::Dpi()) + " DPI");
             startUp.ConfigLaunch = launched;
-            test.Show(page);
+            test.Show(page.number);
             ExpectPage(test);
         }
     if (GetParam() == kNewDevice) {
@@ -176,6 +167,7 @@ TEST_P(Layout, EveryPage) {
         test.Show(kNdwFinalPage);
         ExpectPage(test, true);
     }
+    startUp.ConfigLaunch = false;
     SCOPED_TRACE("permission page");
     form.pool.ClearPage(form.txtInfo);
     PageConfigDisabled(form);

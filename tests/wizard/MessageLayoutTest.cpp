@@ -13,36 +13,30 @@ TEST(MessageLayout, StandsInTheMiddleAndOnTheScreen) {
         int dpi;
         PixelArea workArea;
         std::optional<PixelArea> owner;
-        int left, top, width, height; // twips
+        std::array<int, 4> place; // left, top, width, height in twips
     };
     // clang-format off
     const Row rows[] = {
-        {"small",            0,  96, kScreen,                   {},                                5110, 3940, 5140, 3640},
-        {"medium",           1,  96, kScreen,                   {},                                4810, 3570, 5740, 4380},
-        {"large",            2,  96, kScreen,                   {},                                4330, 3090, 6700, 5340},
-        {"large too",        3,  96, kScreen,                   {},                                4330, 3090, 6700, 5340},
-        {"as made",          4,  96, kScreen,                   {},                                5110, 3940, 5140, 3640},
-        {"as made",         -1,  96, kScreen,                   {},                                5110, 3940, 5140, 3640},
-        {"144 DPI",          0, 144, kScreen,                   {},                                2550, 2020, 5140, 3640},
-        {"120 DPI",          0, 120, kScreen,                   {},                                3574, 2788, 5140, 3640},
-        {"task bar left",    0,  96, PixelArea{62, 0, 1024, 768}, {},                              5110, 3940, 5140, 3640},
-        {"task bar below",   0,  96, PixelArea{0, 0, 1024, 728}, {},                               5110, 3640, 5140, 3640},
-        {"owner",            0,  96, kScreen,                   PixelArea{200, 100, 700, 500},     4180, 2680, 5140, 3640},
-        {"owner, 144 DPI",   0, 144, kScreen,                   PixelArea{200, 100, 700, 500},     1930, 1180, 5140, 3640},
-        {"off above, left",  0,  96, kScreen,                   PixelArea{-500, -400, -100, -200},  100,  100, 5140, 3640},
-        {"off below, right", 0,  96, kScreen,                   PixelArea{900, 700, 1100, 800},   10120, 7780, 5140, 3640},
-        {"just inside",      0,  96, kScreen,                   PixelArea{0, 0, 344, 244},           10,   10, 5140, 3640},
-        {"100 of the screen", 0, 96, PixelArea{0, 60, 1024, 768}, PixelArea{200, 0, 700, 100},     4180,  100, 5140, 3640},
-        {"too low a screen", 0,  96, PixelArea{0, 0, 1024, 200}, {},                               5110, -740, 5140, 3640},
+        {"small",             0,  96, kScreen,                     {},                                {5110, 3940, 5140, 3640}},
+        {"medium",            1,  96, kScreen,                     {},                                {4810, 3570, 5740, 4380}},
+        {"large",             2,  96, kScreen,                     {},                                {4330, 3090, 6700, 5340}},
+        {"large too",         3,  96, kScreen,                     {},                                {4330, 3090, 6700, 5340}},
+        {"as made",          -1,  96, kScreen,                     {},                                {5110, 3940, 5140, 3640}},
+        {"144 DPI",           0, 144, kScreen,                     {},                                {2550, 2020, 5140, 3640}},
+        {"task bar left",     0,  96, PixelArea{62, 0, 1024, 768}, {},                                {5110, 3940, 5140, 3640}},
+        {"task bar below",    0,  96, PixelArea{0, 0, 1024, 728},  {},                                {5110, 3640, 5140, 3640}},
+        {"owner, 144 DPI",    0, 144, kScreen,                     PixelArea{200, 100, 700, 500},     {1930, 1180, 5140, 3640}},
+        {"off above, left",   0,  96, kScreen,                     PixelArea{-500, -400, -100, -200}, { 100,  100, 5140, 3640}},
+        {"off below, right",  0,  96, kScreen,                     PixelArea{900, 700, 1100, 800},    {10120, 7780, 5140, 3640}},
+        {"just inside",       0,  96, kScreen,                     PixelArea{0, 0, 344, 244},         {  10,   10, 5140, 3640}},
+        {"100 of the screen", 0,  96, PixelArea{0, 60, 1024, 768}, PixelArea{200, 0, 700, 100},       {4180,  100, 5140, 3640}},
+        {"too low a screen",  0,  96, PixelArea{0, 0, 1024, 200},  {},                                {5110, -740, 5140, 3640}},
     };
     // clang-format on
     for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
-        const MessageLayout layout = LayOutMessage(row.size, 1, {row.workArea, row.dpi, 19}, row.owner);
-        EXPECT_EQ(layout.left.value, row.left);
-        EXPECT_EQ(layout.top.value, row.top);
-        EXPECT_EQ(layout.width.value, row.width);
-        EXPECT_EQ(layout.height.value, row.height);
+        const MessageLayout is = LayOutMessage(row.size, 1, {row.workArea, row.dpi, 19}, row.owner);
+        EXPECT_EQ((std::array{is.left.value, is.top.value, is.width.value, is.height.value}), row.place)
+            << row.name;
     }
 }
 
@@ -51,30 +45,27 @@ TEST(MessageLayout, DividesTheWindow) {
         std::int16_t size;
         std::size_t buttons;
         int dpi, captionHeight;
-        int frameWidth, frameHeight, textWidth, textHeight, buttonTop;
+        std::array<int, 5> parts;      // frame's and text's width and height, the buttons' top
         std::array<int, 3> buttonLeft; // as many as there are buttons
     };
     // clang-format off
     const Row rows[] = {
-        {0, 1,  96, 19, 5050, 2560, 4810, 2320, 2710, {2083}},
-        {0, 2,  96, 19, 5050, 2560, 4810, 2320, 2710, {1535, 2630}},
-        {0, 3,  96, 19, 5050, 2560, 4810, 2320, 2710, {988, 2083, 3178}},
-        {0, 1, 144, 28, 5050, 2565, 4810, 2325, 2710, {2083}},
-        {1, 2,  96, 23, 5650, 3240, 5410, 3000, 3450, {1835, 2930}},
-        {3, 3,  96, 19, 6610, 4260, 6370, 4020, 4410, {1768, 2863, 3958}},
+        {0, 1,  96, 19, {5050, 2560, 4810, 2320, 2710}, {2083}},
+        {0, 2,  96, 19, {5050, 2560, 4810, 2320, 2710}, {1535, 2630}},
+        {0, 1, 144, 28, {5050, 2565, 4810, 2325, 2710}, {2083}},
+        {1, 2,  96, 23, {5650, 3240, 5410, 3000, 3450}, {1835, 2930}},
+        {3, 3,  96, 19, {6610, 4260, 6370, 4020, 4410}, {1768, 2863, 3958}},
     };
     // clang-format on
     for (const Row& row : rows) {
         SCOPED_TRACE(std::to_string(row.size) + ", " + std::to_string(row.buttons) + " buttons");
-        const MessageLayout layout =
+        const MessageLayout is =
             LayOutMessage(row.size, row.buttons, {kScreen, row.dpi, row.captionHeight}, std::nullopt);
-        EXPECT_EQ(layout.frameWidth.value, row.frameWidth);
-        EXPECT_EQ(layout.frameHeight.value, row.frameHeight);
-        EXPECT_EQ(layout.textWidth.value, row.textWidth);
-        EXPECT_EQ(layout.textHeight.value, row.textHeight);
-        EXPECT_EQ(layout.buttonTop.value, row.buttonTop);
+        EXPECT_EQ((std::array{is.frameWidth.value, is.frameHeight.value, is.textWidth.value,
+                              is.textHeight.value, is.buttonTop.value}),
+                  row.parts);
         for (std::size_t i = 0; i < row.buttons; ++i)
-            EXPECT_EQ(layout.buttonLeft[i].value, row.buttonLeft[i]) << i;
+            EXPECT_EQ(is.buttonLeft[i].value, row.buttonLeft[i]) << i;
     }
 }
 

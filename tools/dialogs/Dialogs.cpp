@@ -1,4 +1,5 @@
-// Shows one of the product's small windows by itself and prints what the user answered.
+// Shows one of the product's small windows by itself. Its exit code is what the user answered; the name of
+// an icon is printed.
 //   dialogs message BUTTONS SIZE TITLE TEXT   the text with its mark-up; "|" for a line end
 //   dialogs choice PRESET
 //   dialogs icons FOLDER
@@ -28,19 +29,16 @@ int wmain(int count, wchar_t** words) {
     const std::wstring kind = count > 2 ? words[1] : L"";
     InitLocations();
     if (kind == L"message" && count == 6) {
-        const int result =
-            ShowMessage(WithLineEnds(words[5]), Number(words[2]), Number(words[3]), words[4], nullptr);
-        std::printf("%d\n", result);
-    } else if (kind == L"choice") {
+        return ShowMessage(WithLineEnds(words[5]), Number(words[2]), Number(words[3]), words[4], nullptr);
+    }
+    if (kind == L"choice") {
         setupChoice = Number(words[2]);
         ShowChoice(nullptr);
-        std::printf("%d\n", setupChoice);
-    } else if (kind == L"icons") {
-        frmIcons form;
-        form.OpenForm(words[2], nullptr);
-        std::printf("%ls\n", form.Result().c_str());
-    } else {
-        return 2;
+        return setupChoice;
     }
+    if (kind != L"icons") return -1;
+    frmIcons form;
+    form.OpenForm(words[2], nullptr);
+    std::printf("%ls\n", form.Result().c_str());
     return 0;
 }

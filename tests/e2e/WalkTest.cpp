@@ -1,0 +1,365 @@
+// The real program as a person uses it, its windows, its files, what it starts. Each walk of walks.txt is
+// one test; the verbs that its lines may begin with are the table below.
+
+#include "tests/ndw/DcpByHand.h"
+#include "tests/support/DemoSuite.h"
+#include "tests/support/WizardDriver.h"
+
+#include <gtest/gtest.h>
+
+#include <shellapi.h>
+#include <shlobj.h>
+
+#include <map>
+#include <optional>
+#include <ostream>
+#include <sstream>
+
+namespace {
+
+using driver::Ask;
+using driver::Notify;
+using driver::TextOf;
+using Text = std::wstring;
+
+struct Walk {
+    DemoSuite suite;
+    std::optional<WizardDriver> wizard;
+    win::UniqueKernelHandle lock;
+    std::map<Text, std::size_t> seen; // starts of a program that the walk has spoken of
+
+    const WizardDriver& On() const { return *wizard; }
+    Text Replaced(Text text) const;
+    void Follow(const Text& section);
+};
+
+const std::map<Text, int> kButtons = {{L"ok", IDOK}, {L"cancel", IDCANCEL}, {L"yes", IDYES}, {L"no", IDNO}};
+
+const std::map<Text, Spoilt> kSpoilt = {{L"missing", Spoilt::Missing},
+                                        {L"file", Spoilt::File},
+                                        {L"folder", Spoilt::Folder},
+                                        {L"locked", Spoilt::Locked}};
+
+void Expect(const Text& is, const Text& wanted) { EXPECT_EQ(Utf8(is), Utf8(wanted)); }
+
+bool IsChecked(const Walk& walk, const Text& caption) {
+    const HWND button = walk.On().Button(caption);
+    if (!button) Fail(L"not on the page: " + caption);
+    return Ask(button, BM_GETCHECK) == BST_CHECKED;
+}
+
+void Check(const Walk& walk, const Text& caption, bool on) {
+    if (IsChecked(walk, caption) != on) walk.On().Press(caption);
+    walk.On().Until([&] { return IsChecked(walk, caption) == on; }, L"a change of " + caption);
+}
+
+void Type(const Walk& walk, const Text& prompt, const Text& text) {
+    const HWND box = walk.On().Input(L"Edit", prompt);
+    Ask(box, EM_SETSEL, 0, -1);
+    Ask(box, WM_CLEAR);
+    for (const wchar_t c : text)
+        Ask(box, WM_CHAR, c);
+}
+
+void Select(HWND input, UINT message, WORD code, const Text& index) {
+    Ask(input, message, static_cast<WPARAM>(std::stoi(index)));
+    Notify(input, code);
+}
+
+// Presses Next until the page is there.
+void GoTo(const Walk& walk, const Text& heading) {
+    while (walk.On().Heading() != heading) {
+        const Text before = walk.On().Heading();
+        walk.On().Press(L"&Next >");
+        walk.On().Until([&] { return walk.On().Heading() != before; }, L"a page after " + before);
+        walk.On().WaitForPage(walk.On().Heading());
+    }
+}
+
+void Move(const Walk& walk, const wchar_t* button, const Text& heading) {
+    walk.On().Press(button);
+    walk.On().WaitForPage(heading);
+}
+
+Text Items(HWND list) {
+    Text items;
+    for (std::size_t i = 0; i < Ask(list, LB_GETCOUNT); ++i) {
+        Text item(Ask(list, LB_GETTEXTLEN, i) + 1, L'\0');
+        item.resize(Ask(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(item.data())));
+        items += (i ? L" | " : L"") + item;
+    }
+    return items;
+}
+
+// "C:\folder\*.dcp" stands for the names that fit, folders included.
+Text Names(const Text& path) {
+    const std::size_t name = path.rfind(L'\\') + 1;
+    Text names;
+    for (const Text& file : FileNames(path.substr(0, name), path.c_str() + name))
+        names += (names.empty() ? L"" : L" | ") + file;
+    return names;
+}
+
+void Send(WORD key, WORD scan, DWORD flags) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = key;
+    input.ki.wScan = scan;
+    input.ki.dwFlags = flags;
+    SendInput(1, &input, sizeof input);
+}
+
+const std::map<Text, WORD> kKeys = {
+    {L"tab", VK_TAB}, {L"enter", VK_RETURN}, {L"esc", VK_ESCAPE},  {L"left", VK_LEFT},   {L"right", VK_RIGHT},
+    {L"up", VK_UP},   {L"down", VK_DOWN},    {L"space", VK_SPACE}, {L"shift", VK_SHIFT}, {L"alt", VK_MENU}};
+
+// Keys of the keyboard, "alt+n" as well; the window that takes them has to be in front.
+void Key(const Text& keys) {
+    const std::size_t plus = keys.find(L'+') + 1;
+    const WORD modifier = plus ? kKeys.at(keys.substr(0, plus - 1)) : WORD{0};
+    const Text name = keys.substr(plus);
+    const WORD key = kKeys.count(name) ? kKeys.at(name) : static_cast<WORD>(towupper(name.at(0)));
+    if (modifier) Send(modifier, 0, 0);
+    Send(key, 0, 0);
+    Send(key, 0, KEYEVENTF_KEYUP);
+    if (modifier) Send(modifier, 0, KEYEVENTF_KEYUP);
+}
+
+void Write(const Text& text) {
+    for (const wchar_t c : text)
+        for (const DWORD up : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}})
+            Send(0, c, KEYEVENTF_UNICODE | up);
+}
+
+// By the mouse, `from` pixels from the right end or, above 0, from the left.
+void Click(HWND control, int from = 9, UINT down = WM_LBUTTONDOWN) {
+    RECT area{};
+    GetClientRect(control, &area);
+    const LPARAM place = MAKELPARAM(from < 0 ? area.right + from : from, 9);
+    PostMessageW(control, down, MK_LBUTTON, place);
+    PostMessageW(control, WM_LBUTTONUP, 0, place);
+}
+
+// What has the focus: its text, or its class when it holds more than a caption.
+void ExpectFocus(const Walk& walk, const Text& wanted) {
+    const HWND list = walk.On().Focus();
+    walk.On().Until(
+        [&] {
+            wchar_t name[32] = L"";
+            GetClassNameW(walk.On().Focus(), name, 32);
+            return name == wanted || TextOf(walk.On().Focus()) == wanted;
+        },
+        L"the focus on " + wanted + (list ? L" instead of " + TextOf(list) : L""));
+}
+
+// A configuration that differs from the one with the answers the wizard starts with: "178 00 01, 240 25".
+std::string Configuration(const Text& places) {
+    DcpByHand file;
+    std::istringstream each(Utf8(places));
+    for (std::string place; std::getline(each, place, ',');) {
+        std::size_t digits = 0;
+        const std::size_t offset = std::stoul(place, &digits);
+        file.With(offset, DcpByHand::Hex(place.substr(digits)));
+    }
+    return file.Bytes();
+}
+
+void ExpectStart(Walk& walk, const Text& program, const Text& commandLine) {
+    const Start start = walk.suite.WaitForStarts(program, ++walk.seen[program]).at(walk.seen[program] - 1);
+    Expect(start.commandLine, commandLine);
+    Expect(start.folder + L"\\", walk.suite.Folder());
+}
+
+// Links are opened as by a double click, so that the system says where they lead.
+void Open(const Text& link) {
+    SHELLEXECUTEINFOW info{};
+    info.cbSize = sizeof info;
+    info.fMask = SEE_MASK_FLAG_NO_UI;
+    info.lpFile = link.c_str();
+    info.nShow = SW_SHOWNORMAL;
+    EXPECT_TRUE(ShellExecuteExW(&info));
+}
+
+// The shell's own dialog opens on C:\ and unfolds the tree down to it.
+void WaitForTree(const Walk& walk) {
+    const HWND tree = walk.On().Input(L"SysTreeView32", L"");
+    LRESULT selected = 0;
+    const auto isStill = [&] {
+        Sleep(200);
+        return std::exchange(selected, SendMessageW(tree, TVM_GETNEXTITEM, TVGN_CARET, 0)) == selected;
+    };
+    walk.On().Until([&] { return isStill() && selected; }, L"a folder selected in the tree");
+}
+
+void ExpectCorner(const Walk& walk) {
+    RECT place{};
+    GetWindowRect(walk.On().Window(), &place);
+    EXPECT_EQ(place.right, GetSystemMetrics(SM_CXSCREEN));
+    EXPECT_EQ(place.bottom, GetSystemMetrics(SM_CYSCREEN));
+}
+
+void StartAgain(Walk& walk, const Text& arguments) {
+    EXPECT_EQ(WizardDriver(walk.suite, arguments, WizardDriver::Wait::No).WaitForExit(), 0);
+    const HWND first = walk.On().Window();
+    walk.On().Until([&] { return !IsIconic(first) && GetForegroundWindow() == first; }, L"the first copy");
+}
+
+struct Verb {
+    const wchar_t* word;
+    void (*act)(Walk& walk, const Text& a, const Text& b);
+};
+
+// "verb a" or "verb a = b"
+// clang-format off
+const Verb kVerbs[] = {
+    // what there is before
+    {L"icons",     [](Walk& w, const Text&, const Text&) { w.suite.AddIcons(); }},
+    {L"samples",   [](Walk& w, const Text&, const Text&) { w.suite.AddSamples(); }},
+    {L"write",     [](Walk&, const Text& a, const Text& b) { WriteFileBytes(a, Utf8(b)); }},
+    {L"make",      [](Walk& w, const Text& a, const Text& b) { WriteFileBytes(w.suite.Settings() + a + L".DCP", Configuration(b)); }},
+    {L"spoil",     [](Walk& w, const Text& a, const Text& b) { w.lock = Spoil(a, kSpoilt.at(b)); }},
+    {L"do",        [](Walk& w, const Text& a, const Text&) { w.Follow(a); }},
+    // what the person does
+    {L"start",     [](Walk& w, const Text& a, const Text&) { w.wizard.emplace(w.suite, a); }},
+    {L"dialog",    [](Walk& w, const Text& a, const Text&) { w.suite.AddDialogs(); w.wizard.emplace(w.suite, a, WizardDriver::Wait::No, L"dialogs.exe"); }},
+    {L"begin",     [](Walk& w, const Text& a, const Text&) { w.wizard.emplace(w.suite, a, WizardDriver::Wait::No); }},
+    {L"opens",     [](Walk& w, const Text&, const Text&) { w.wizard->WaitForOpening(); }},
+    {L"again",     [](Walk& w, const Text& a, const Text&) { StartAgain(w, a); }},
+    {L"minimise",  [](Walk& w, const Text&, const Text&) { ShowWindow(w.On().Window(), SW_MINIMIZE); }},
+    {L"next",      [](Walk& w, const Text& a, const Text&) { w.On().Next(a); }},
+    {L"back",      [](Walk& w, const Text& a, const Text&) { Move(w, L"< Back", a); }},
+    {L"skip",      [](Walk& w, const Text& a, const Text&) { Move(w, L"&Skip", a); }},
+    {L"new",       [](Walk& w, const Text& a, const Text&) { Move(w, L"&New", a); }},
+    {L"to",        [](Walk& w, const Text& a, const Text&) { GoTo(w, a); }},
+    {L"press",     [](Walk& w, const Text& a, const Text&) { w.On().Press(a); }},
+    {L"on",        [](Walk& w, const Text& a, const Text&) { Check(w, a, true); }},
+    {L"off",       [](Walk& w, const Text& a, const Text&) { Check(w, a, false); }},
+    {L"type",      [](Walk& w, const Text& a, const Text& b) { Type(w, a, b); }},
+    {L"pick",      [](Walk& w, const Text& a, const Text& b) { Select(w.On().Input(L"ComboBox", a), CB_SETCURSEL, CBN_SELCHANGE, b); }},
+    {L"choose",    [](Walk& w, const Text& a, const Text& b) { Select(w.On().Input(L"ListBox", a), LB_SETCURSEL, LBN_SELCHANGE, b); }},
+    {L"mark",      [](Walk& w, const Text& a, const Text&) { Ask(w.On().Input(L"ListBox", L""), LB_SETSEL, TRUE, std::stoi(a)); }},
+    {L"box",       [](Walk& w, const Text& a, const Text& b) { EXPECT_EQ(Utf8(w.On().AnswerBox(kButtons.at(a))).find(Utf8(b)), 0u) << Utf8(b); }},
+    {L"at",        [](Walk& w, const Text& a, const Text&) { w.wizard->GoTo(a); }},
+    {L"key",       [](Walk&, const Text& a, const Text&) { Key(a); }},
+    {L"keys",      [](Walk&, const Text& a, const Text&) { Write(a); }},
+    {L"click",     [](Walk& w, const Text& a, const Text&) { Click(w.On().Button(a)); }},
+    {L"double",    [](Walk& w, const Text& a, const Text&) { Click(w.On().Button(a)), Click(w.On().Button(a), 9, WM_LBUTTONDBLCLK); }},
+    {L"scroll",    [](Walk& w, const Text&, const Text&) { Click(w.On().Input(L"ScrollBar", L""), -4); }},
+    {L"tree",      [](Walk& w, const Text&, const Text&) { WaitForTree(w); }},
+    {L"open",      [](Walk&, const Text& a, const Text&) { Open(a); }},
+    {L"close",     [](Walk& w, const Text&, const Text&) { PostMessageW(w.On().Window(), WM_CLOSE, 0, 0); }},
+    {L"exit",      [](Walk& w, const Text& a, const Text&) { Expect(std::to_wstring(w.On().WaitForExit()), a.empty() ? L"0" : a); }},
+    // what the page shows
+    {L"page",      [](Walk& w, const Text& a, const Text&) { w.On().WaitForPage(a); }},
+    {L"says",      [](Walk& w, const Text& a, const Text&) { EXPECT_NE(w.On().PageText().find(a), Text::npos) << Utf8(w.On().PageText()); }},
+    {L"label",     [](Walk& w, const Text& a, const Text&) { w.On().Until([&] { return w.On().Find(L"Static", a) != nullptr; }, L"the label " + a); }},
+    {L"there",     [](Walk& w, const Text& a, const Text&) { EXPECT_TRUE(IsWindowEnabled(w.On().Button(a))); }},
+    {L"grey",      [](Walk& w, const Text& a, const Text&) { EXPECT_TRUE(w.On().Button(a) && !IsWindowEnabled(w.On().Button(a))); }},
+    {L"gone",      [](Walk& w, const Text& a, const Text&) { EXPECT_FALSE(w.On().Button(a)); }},
+    {L"checked",   [](Walk& w, const Text& a, const Text&) { w.On().Until([&] { return IsChecked(w, a); }, L"a check of " + a); }},
+    {L"unchecked", [](Walk& w, const Text& a, const Text&) { EXPECT_FALSE(IsChecked(w, a)); }},
+    {L"typed",     [](Walk& w, const Text& a, const Text& b) { Expect(TextOf(w.On().Input(L"Edit", a)), b); }},
+    {L"picked",    [](Walk& w, const Text& a, const Text& b) { Expect(TextOf(w.On().Input(L"ComboBox", a)), b); }},
+    {L"items",     [](Walk& w, const Text& a, const Text&) { Expect(Items(w.On().Input(L"ListBox", L"")), a); }},
+    {L"focus",     [](Walk& w, const Text& a, const Text&) { EXPECT_EQ(w.On().Focus(), w.On().Input(L"Edit", a)); }},
+    {L"focused",   [](Walk& w, const Text& a, const Text&) { ExpectFocus(w, a); }},
+    {L"default",   [](Walk& w, const Text& a, const Text&) { EXPECT_EQ(GetDlgItem(w.On().Window(), LOWORD(Ask(w.On().Window(), DM_GETDEFID))), w.On().Button(a)); }},
+    {L"corner",    [](Walk& w, const Text&, const Text&) { ExpectCorner(w); }},
+    // what is left behind
+    {L"files",     [](Walk&, const Text& a, const Text& b) { Expect(Names(a), b); }},
+    {L"same",      [](Walk&, const Text& a, const Text& b) { EXPECT_EQ(FileBytes(a), FileBytes(b)); }},
+    {L"holds",     [](Walk&, const Text& a, const Text& b) { EXPECT_NE(FileBytes(a).find(Utf8(b)), std::string::npos) << Utf8(b); }},
+    {L"ini",       [](Walk& w, const Text& a, const Text& b) { Expect(w.suite.Setting(a.c_str()), b); }},
+    {L"dcp",       [](Walk& w, const Text& a, const Text& b) { ExpectBytes(FileBytes(w.suite.Settings() + a + L".DCP"), Configuration(b)); }},
+    {L"started",   [](Walk& w, const Text& a, const Text& b) { ExpectStart(w, a, b); }},
+    {L"starts",    [](Walk& w, const Text& a, const Text&) { Expect(std::to_wstring(w.suite.StartCount()), a); }},
+};
+// clang-format on
+
+Text Folder(int csidl) {
+    wchar_t path[MAX_PATH] = L"";
+    SHGetFolderPathW(nullptr, csidl, nullptr, SHGFP_TYPE_CURRENT, path);
+    return path + Text(L"\\");
+}
+
+Text Walk::Replaced(Text text) const {
+    const std::pair<const wchar_t*, Text> kWords[] = {
+        {L"{suite}", suite.Folder()},
+        {L"{settings}", suite.Settings()},
+        {L"{public}", Folder(CSIDL_COMMON_DOCUMENTS)},
+        {L"{desktop}", Folder(CSIDL_DESKTOPDIRECTORY)},
+        {L"{start}", Folder(CSIDL_STARTMENU)},
+        {L"{quick}", Folder(CSIDL_APPDATA) + L"Microsoft\\Internet Explorer\\Quick Launch\\"},
+        {L"{300 folders}",
+         [] {
+             Text list;
+             for (int i = 0; i < 300; ++i)
+                 list += L"D:\\Cnc " + std::to_wstring(i) + L";";
+             return list + L"E:";
+         }()},
+        {L"{n}", L"\r\n"}};
+    for (const auto& [word, meaning] : kWords)
+        for (auto at = text.find(word); at != Text::npos; at = text.find(word, at + meaning.size()))
+            text.replace(at, Text(word).size(), meaning);
+    return text;
+}
+
+struct Line {
+    int number;
+    Text text;
+};
+using Walks = std::map<Text, std::vector<Line>>;
+
+// "== name" begins a walk; one in brackets is a part of others. Lines that begin with "#" are remarks.
+const Walks& AllWalks() {
+    static const Walks all = [] {
+        Walks walks;
+        Text name;
+        std::istringstream lines(FileBytes(TestFolder() + L"..\\..\\tests\\e2e\\walks.txt"));
+        int number = 0;
+        for (std::string bytes; std::getline(lines, bytes);) {
+            const Text text = FromUtf8(bytes);
+            ++number;
+            if (text.starts_with(L"== "))
+                name = text.substr(3);
+            else if (!text.empty() && text.front() != L'#')
+                walks[name].push_back({number, text});
+        }
+        return walks;
+    }();
+    return all;
+}
+
+void Walk::Follow(const Text& section) {
+    for (const Line& line : AllWalks().at(section)) {
+        SCOPED_TRACE("line " + std::to_string(line.number) + ": " + Utf8(line.text));
+        const Text word = line.text.substr(0, line.text.find(L' '));
+        const auto verb = std::find_if(std::begin(kVerbs), std::end(kVerbs),
+                                       [&](const Verb& each) { return each.word == word; });
+        ASSERT_NE(verb, std::end(kVerbs)) << "no such verb";
+        const Text rest = line.text.substr(std::min(word.size() + 1, line.text.size()));
+        const std::size_t middle = std::min(rest.find(L" ="), rest.size());
+        const Text b = rest.substr(std::min(middle + 3, rest.size()));
+        verb->act(*this, Replaced(rest.substr(0, middle)), Replaced(b));
+        if (testing::Test::HasFatalFailure()) return;
+    }
+}
+
+std::vector<Text> WalkNames() {
+    std::vector<Text> names;
+    for (const auto& [name, lines] : AllWalks())
+        if (name.front() != L'(') names.push_back(name);
+    return names;
+}
+
+class EveryWalk : public testing::TestWithParam<Text> {};
+
+TEST_P(EveryWalk, Ends) { Walk().Follow(GetParam()); }
+
+INSTANTIATE_TEST_SUITE_P(Walks, EveryWalk, testing::ValuesIn(WalkNames()), [](const auto& walk) {
+    std::string name = Utf8(walk.param);
+    std::erase_if(name, [](char c) { return !isalnum(c); });
+    return name;
+});
+
+} // namespace
