@@ -46,8 +46,19 @@ bool CanGrow(HANDLE file, std::size_t bytes) {
 
 } // namespace
 
+bool IsTooLargeToRewrite(const std::wstring& file) {
+    constexpr DWORD kMost = 32 * 1024 * 1024; // bytes
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    return GetFileAttributesExW(file.c_str(), GetFileExInfoStandard, &data) &&
+           (data.nFileSizeHigh != 0 || data.nFileSizeLow > kMost);
+}
+
 bool HasRoomToRewrite(const std::wstring& file, std::size_t added) {
     constexpr std::size_t kUtf16 = 2; // a file of 16-bit characters keeps them
+    if (IsTooLargeToRewrite(file)) {
+        SetLastError(ERROR_FILE_TOO_LARGE);
+        return false;
+    }
     if (const auto existing = Open(file, OPEN_EXISTING))
         return CanGrow(existing.Get(), kUtf16 * (added + GrowthOfLines(existing.Get())));
     if (GetLastError() != ERROR_FILE_NOT_FOUND) return false; // that error is the one to tell of

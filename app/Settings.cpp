@@ -64,9 +64,11 @@ void WriteIniString(const std::wstring& key, const std::wstring& value) {
 }
 
 win::AppError IniWriteError() {
-    return {kIniWriteErrorNumber, L"VWizard",
-            L"Unable to write data to configuration file: \r\n" + locations.IniFile +
-                L".\r\n\r\nFile may be READ ONLY or may be locked by another application."};
+    std::wstring text = L"Unable to write data to configuration file: \r\n" + locations.IniFile +
+                        L".\r\n\r\nFile may be READ ONLY or may be locked by another application.";
+    if (IsTooLargeToRewrite(locations.IniFile))
+        text += L"\r\n\r\nIt is too large: nothing can be added to it.";
+    return {kIniWriteErrorNumber, L"VWizard", text};
 }
 
 void ReportIniWriteError() { throw IniWriteError(); }

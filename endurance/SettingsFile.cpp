@@ -44,6 +44,7 @@ std::string Sections(int size) { return Usual(0) + Repeated("[s", "]\r\nk=v\r\n;
 std::string Large(int size) {
     return Usual(0) + Repeated("[s", "]\r\nk=" + std::string(1020, 'v') + "\r\n", size);
 }
+std::string Third(int size) { return Large(size * 3 / 10); }
 std::string LongLine(int) { return Usual(0) + "[Long]\r\nk=" + std::string(65536, 'l') + "\r\nafter=1\r\n"; }
 std::string Utf16(int) {
     std::string text = "\xFF\xFE";
@@ -82,7 +83,8 @@ constexpr Row kRows[] = {
     {L"read-only",          Usual,      Ends::Denied,   Trick::ReadOnly},
     {L"many keys",          Keys,       Ends::Finished},
     {L"many sections",      Sections,   Ends::Finished},
-    {L"large",              Large,      Ends::Finished},
+    {L"100 MB",             Large,      Ends::Denied},
+    {L"30 MB",              Third,      Ends::Finished},
     {L"line of 64 kB",      LongLine,   Ends::Finished},
     {L"UTF-16",             Utf16,      Ends::Finished},
     {L"UTF-8 mark",         Utf8,       Ends::Finished},
