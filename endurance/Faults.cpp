@@ -1,5 +1,6 @@
 // Each call to the system that a whole run of either wizard makes fails, once alone and once with all that
 // follow it: the wizard goes on or ends, without a crash, and says only what it has to say.
+#include "endurance/Scene.h"
 #include "endurance/Soak.h"
 #include "endurance/Walker.h"
 
@@ -11,26 +12,15 @@
 
 namespace {
 
-constexpr DWORD kVariable = 1024;
-
-std::wstring FromEnvironment(const wchar_t* name) {
-    std::wstring value(kVariable, L'\0');
-    value.resize(GetEnvironmentVariableW(name, value.data(), kVariable));
-    return value;
-}
-
 struct Scene {
     const wchar_t* arguments;
     DemoSuite suite;
     std::vector<std::string> calls; // of an undisturbed run
 
     explicit Scene(const wchar_t* mode) : arguments(mode) {
-        if (!CopyFileW(FromEnvironment(L"SOAK_FAULTY").c_str(), (suite.Folder() + L"VWizard.exe").c_str(),
-                       FALSE))
-            throw std::runtime_error("cannot copy the program with faults");
+        ReplaceProgram(suite, L"SOAK_FAULTY");
         suite.AddIcons();
-        CreateDirectoryW((suite.Folder() + L"Samples").c_str(), nullptr);
-        WriteFileBytes(suite.Folder() + L"Samples\\Sample.dcp", "sample");
+        AddSamples(suite, {L"Sample"});
     }
     std::wstring Log() const { return suite.Folder() + L"calls.txt"; }
 };

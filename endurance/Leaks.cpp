@@ -1,6 +1,7 @@
 // Long use: tours of all pages, message windows, icon pickers, imports. What the wizard holds is counted
 // from outside; after warming up none of it grows.
 #include "benchmark/LinuxProcess.h"
+#include "endurance/Scene.h"
 #include "endurance/Soak.h"
 #include "endurance/Walker.h"
 #include "tests/support/DemoSuite.h"
@@ -80,8 +81,7 @@ class Patient {
   public:
     explicit Patient(const wchar_t* arguments) {
         suite_.AddIcons();
-        CreateDirectoryW((suite_.Folder() + L"Samples").c_str(), nullptr);
-        WriteFileBytes(suite_.Folder() + L"Samples\\Sample.dcp", "sample");
+        AddSamples(suite_, {L"Sample"});
         const std::wstring mark = L"leaks" + std::to_wstring(GetTickCount());
         wizard_ = std::make_unique<WizardDriver>(suite_, (arguments + (L" " + mark)).c_str());
         walker_ = std::make_unique<Walker>(*wizard_);

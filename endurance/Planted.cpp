@@ -1,5 +1,6 @@
 // Programs and libraries of the same name planted on the way: the wizard loads its libraries from the system
 // and starts the suite's own programs, whatever the folders are called.
+#include "endurance/Scene.h"
 #include "endurance/Soak.h"
 #include "endurance/Walker.h"
 
@@ -22,18 +23,6 @@ constexpr const wchar_t* kLibraries[] = {
 };
 
 constexpr std::size_t kStarts = 14; // by the links and the ends of both walks
-
-std::wstring FromEnvironment(const wchar_t* name) {
-    std::wstring value(1024, L'\0');
-    value.resize(GetEnvironmentVariableW(name, value.data(), 1024));
-    return value;
-}
-
-void Plant(const std::wstring& from, const std::wstring& to) {
-    if (!CopyFileW(from.c_str(), to.c_str(), FALSE)) throw std::runtime_error("cannot plant " + Utf8(to));
-}
-
-bool Exists(const std::wstring& path) { return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES; }
 
 // Loads each library by its bare name within the wizard, as parts of the system do that it has loaded.
 void LoadWithin(DWORD wizard) {
@@ -107,14 +96,14 @@ void CheckPlanted(Tally& tally) {
         const std::wstring planted = FromEnvironment(L"SOAK_PLANTED");
         for (const wchar_t* name : kLibraries)
             for (const std::wstring& folder : {suite.Folder(), std::wstring(L"C:\\elsewhere\\")})
-                Plant(planted, folder + name + L".dll");
+                Copy(planted, folder + name + L".dll");
         const wchar_t* programs[] = {L"C:\\Program.exe", L"C:\\Program Files\\S\x00F6hne.exe"};
         for (const wchar_t* program : programs)
-            Plant(suite.Folder() + L"VConfig.exe", program);
+            Copy(suite.Folder() + L"VConfig.exe", program);
 
         // Whether a load would show at all.
         const std::wstring control = suite.Folder() + L"control.dll";
-        Plant(planted, control);
+        Copy(planted, control);
         FreeLibrary(LoadLibraryW(control.c_str()));
         tally.Expect(Exists(control + L".loaded"), L"a loaded library leaves no trace");
 

@@ -1,8 +1,8 @@
 // What the registry may hold for the settings folder, and folders that are not as they should be: the wizard
 // opens on its first page or says that it may not write, and puts nothing anywhere else.
 #include "endurance/BadText.h"
+#include "endurance/Scene.h"
 #include "endurance/Soak.h"
-#include "endurance/Tree.h"
 #include "endurance/Walker.h"
 
 #include "tests/support/DemoSuite.h"

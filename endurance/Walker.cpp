@@ -1,5 +1,6 @@
 #include "endurance/Walker.h"
 
+#include "endurance/KnownMessages.h"
 #include "tests/support/DemoSuite.h"
 
 #include <algorithm>
@@ -16,32 +17,12 @@ constexpr int kHeadingId = 120;
 constexpr int kBoxTextId = 65535;
 constexpr int kMostVisits = 4; // of one page without getting on
 
-// How every message begins that has a reason to be shown on a walk.
-constexpr std::wstring_view kKnownMessages[] = {
-    L"Unable to write data to configuration file: ",
-    L"The configuration file could not be written:",
-    L"The configuration name you specified is already used.",
-    L"The name you specified ",
-    L"You must specify a valid name to continue.",
-    L"The file extension you specified is not valid.",
-    L"The character ",
-    L"Import ",
-    L"W A R N I N G",
-    L"Complete all steps to ensure that Varnel DNC",
-    L"You chose to restore a previously-saved set of",
-};
-
 BOOL CALLBACK Collect(HWND window, LPARAM data) {
     if (IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(data)->push_back(window);
     return TRUE;
 }
 
 } // namespace
-
-bool IsKnownMessage(std::wstring_view text) {
-    return std::any_of(std::begin(kKnownMessages), std::end(kKnownMessages),
-                       [&](std::wstring_view known) { return text.starts_with(known); });
-}
 
 bool Journey::Passed(std::wstring_view heading) const {
     return std::find(pages.begin(), pages.end(), heading) != pages.end();

@@ -62,9 +62,6 @@ class Walker {
     int visits_ = 0; // of the page shown, one after the other
 };
 
-// Whether the program has a reason to show this text in a message box.
-bool IsKnownMessage(std::wstring_view text);
-
 // A whole run of a suite's wizard, from its start to its end.
 class DemoSuite;
 Journey WalkWhole(const DemoSuite& suite, const wchar_t* arguments);

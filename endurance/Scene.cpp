@@ -1,9 +1,12 @@
-#include "endurance/Tree.h"
+#include "endurance/Scene.h"
+
+#include "tests/support/DemoSuite.h"
 
 #include <windows.h>
 
 #include <algorithm>
 #include <iterator>
+#include <stdexcept>
 
 namespace {
 
@@ -22,6 +25,28 @@ void AddTree(const std::wstring& folder, std::set<std::wstring>& tree) {
 }
 
 } // namespace
+
+std::wstring FromEnvironment(const wchar_t* name) {
+    std::wstring value(1024, L'\0');
+    value.resize(GetEnvironmentVariableW(name, value.data(), 1024));
+    return value;
+}
+
+bool Exists(const std::wstring& path) { return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES; }
+
+void Copy(const std::wstring& from, const std::wstring& to) {
+    if (!CopyFileW(from.c_str(), to.c_str(), FALSE)) throw std::runtime_error("cannot make " + Utf8(to));
+}
+
+void ReplaceProgram(const DemoSuite& suite, const wchar_t* variable) {
+    Copy(FromEnvironment(variable), suite.Folder() + L"VWizard.exe");
+}
+
+void AddSamples(const DemoSuite& suite, std::initializer_list<const wchar_t*> names) {
+    CreateDirectoryW((suite.Folder() + L"Samples").c_str(), nullptr);
+    for (const wchar_t* name : names)
+        WriteFileBytes(suite.Folder() + L"Samples\\" + name + L".dcp", "sample");
+}
 
 std::set<std::wstring> Tree(const std::wstring& folder) {
     std::set<std::wstring> tree;

@@ -1,0 +1,426 @@
+// Linked in front of the wizard's own objects: a random user in the window thread. At each turn it looks at
+// what the last event has led to, and posts another one. Being inside, it reads every control for next to
+// nothing, and knows the answers that the pages have stored.
+#include "app/Text.h"
+#include "app/modLocations.h"
+#include "endurance/BadText.h"
+#include "endurance/KnownMessages.h"
+#include "endurance/Monkey.h"
+#include "ftw/FtwPages.h"
+#include "ndw/NdwPages.h"
+#include "ndw/modDcp.h"
+
+#include <algorithm>
+#include <cwctype>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace {
+
+// How a page's inputs, in their order, become answers.
+enum class Stores { One, Set, Typed, TypedAsItIs };
+struct Row {
+    const wchar_t* heading;
+    Stores how;
+    std::int16_t* index;
+    std::wstring* texts[2];
+    const wchar_t* skippedTo; // page after Skip, which stores nothing
+};
+
+NdwAnswers& answers = ndwSession.answers;
+constexpr wchar_t kNamePage[] = L"Configuration Name", kLastPage[] = L"Finished";
+
+// clang-format off
+const Row kRows[] = {
+    {L"COM Port",                  Stores::One,         &answers.portIndex,               {}, nullptr},
+    {L"Baud Rate",                 Stores::One,         &answers.baudIndex,               {}, nullptr},
+    {L"Data Format",               Stores::One,         &answers.dataFormatIndex,         {}, nullptr},
+    {L"ASCII Character Format",    Stores::One,         &answers.characterFormatIndex,    {}, nullptr},
+    {L"Flow Control",              Stores::One,         &answers.flowControlIndex,        {}, nullptr},
+    {L"End of Block",              Stores::One,         &answers.endOfBlockIndex,         {}, nullptr},
+    {L"Transmit Prefix",           Stores::Set,         &answers.prefixChoice,            {}, nullptr},
+    {L"Transmit Suffix",           Stores::Set,         &answers.suffixChoice,            {}, nullptr},
+    {L"Line Removal",              Stores::Typed,       nullptr, {&answers.removedLines},     nullptr},
+    {L"Filter Options",            Stores::Set,         &answers.filterOptions,           {}, nullptr},
+    {L"Transmit Trigger",          Stores::One,         &answers.transmitTriggerIndex,    {}, nullptr},
+    {L"Receive File Name",         Stores::Typed,       &answers.receiveNamingIndex,
+                                             {&answers.receivePrefix, &answers.receiveExtension}, nullptr},
+    {L"End of Reception",          Stores::One,         &answers.receiveTerminationIndex, {}, nullptr},
+    {kNamePage,                    Stores::TypedAsItIs, nullptr, {&answers.name},             nullptr},
+    {L"Specify CNC file location", Stores::TypedAsItIs, nullptr, {&ftwSession.location.folders},
+                                                                        L"Configure Communication Options"},
+};
+
+constexpr UINT kSystemMessages[] = {
+    WM_SETTINGCHANGE, WM_SYSCOLORCHANGE, WM_THEMECHANGED, WM_FONTCHANGE, WM_DISPLAYCHANGE, WM_TIMECHANGE,
+    WM_QUERYENDSESSION, WM_ENDSESSION, WM_CLOSE, WM_CANCELMODE, WM_DEVICECHANGE,
+};
+constexpr WORD kKeys[] = {
+    VK_TAB, VK_TAB, VK_TAB, VK_SPACE, VK_RETURN, VK_ESCAPE, VK_UP, VK_DOWN, VK_LEFT, VK_RIGHT, VK_HOME,
+    VK_END, VK_PRIOR, VK_NEXT, VK_DELETE, VK_BACK, VK_F1, VK_F4, VK_F10, 'A', 'N', 'O', '1',
+};
+// clang-format on
+
+constexpr int kNextId = 100, kBackId = 101, kHeadingId = 120, kBoxTextId = 65535;
+constexpr UINT kCaretTimer = 0x118;
+constexpr std::size_t kIconOffset = 114, kIconEnd = 178;
+
+struct Control {
+    HWND window;
+    int id;
+    std::wstring kind; // its class
+    DWORD type;        // of a button
+
+    bool IsButton() const { return kind == L"Button"; }
+    bool IsLink() const { return IsButton() && type == BS_OWNERDRAW; }
+    bool IsInput() const {
+        return IsButton() ? type != BS_OWNERDRAW && type != BS_PUSHBUTTON && type != BS_DEFPUSHBUTTON
+                          : kind == L"Edit" || kind == L"ListBox" || kind == L"ComboBox";
+    }
+};
+
+// What a page shows.
+struct Shown {
+    std::wstring heading;
+    std::vector<std::wstring> texts;
+    int index = -1;          // of a list
+    int option = -1;         // the first one that is set
+    int set = 0, places = 0; // check boxes or options
+};
+
+std::wstring TextOf(HWND window) {
+    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+    text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+    return text;
+}
+
+std::wstring ClassOf(HWND window) {
+    wchar_t name[64] = L"";
+    GetClassNameW(window, name, 64);
+    return name;
+}
+
+BOOL CALLBACK Collect(HWND window, LPARAM windows) {
+    reinterpret_cast<std::vector<HWND>*>(windows)->push_back(window);
+    return TRUE;
+}
+
+std::vector<HWND> WindowsOfThread() {
+    std::vector<HWND> windows;
+    EnumThreadWindows(GetCurrentThreadId(), Collect, reinterpret_cast<LPARAM>(&windows));
+    std::erase_if(windows, [](HWND window) { return !IsWindowVisible(window); });
+    return windows;
+}
+
+// Shown or not; the buttons' types are still to be read.
+std::vector<Control> ControlsOf(HWND window) {
+    std::vector<HWND> children;
+    EnumChildWindows(window, Collect, reinterpret_cast<LPARAM>(&children));
+    std::vector<Control> controls;
+    for (HWND child : children)
+        controls.push_back({child, GetDlgCtrlID(child), ClassOf(child), 0});
+    return controls;
+}
+
+class Monkey {
+  public:
+    Monkey() : notes_(*OpenMonkeyNotes()), turnEnds_(CreateEventW(nullptr, FALSE, FALSE, kMonkeyTurnEnds)) {
+        random_.seed(notes_.seed);
+        HWND window =
+            CreateWindowExW(0, L"Static", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+        SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Procedure));
+        notes_.window = window;
+    }
+
+    // The turn comes when all that the last one posted is through, what came of that included.
+    void Turn() {
+        MSG next{};
+        const bool waits = PeekMessageW(&next, nullptr, 0, 0, PM_NOREMOVE | PM_QS_POSTMESSAGE) &&
+                           next.message != WM_TIMER && next.message != kCaretTimer;
+        if (waits && next.message != WM_QUIT) {
+            PostMessageW(notes_.window, kMonkeyTurn, 0, 0);
+            return;
+        }
+        if (!waits) LookAndAct();
+        SetEvent(turnEnds_);
+    }
+
+  private:
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+    std::uint32_t Below(std::uint32_t count) { return static_cast<std::uint32_t>(random_()) % count; }
+    template <class Table> const auto& OneOf(const Table& table) {
+        return table[Below(static_cast<std::uint32_t>(std::size(table)))];
+    }
+
+    void Did(const std::wstring& what) {
+        wchar_t(&row)[64] = notes_.acts[notes_.events++ % 8];
+        row[what.copy(row, 63)] = L'\0';
+    }
+    [[noreturn]] void Fail(const std::wstring& what) {
+        const std::wstring where = L"on \"" + page_.heading + L"\": " + what;
+        notes_.trouble[where.copy(notes_.trouble, 511)] = L'\0';
+        TerminateProcess(GetCurrentProcess(), 98);
+        std::abort();
+    }
+
+    void LookAndAct() {
+        if (!main_) {
+            for (HWND window : WindowsOfThread())
+                if (ClassOf(window) == L"VWizardForm") main_ = window;
+            return;
+        }
+        if (IsWindowEnabled(main_)) {
+            Look();
+            if (!Of(IDCANCEL)) return all_.clear(); // still being opened
+            CheckForm();
+            CheckAnswers();
+            return Act();
+        }
+        for (HWND window : WindowsOfThread())
+            if (window != main_ && IsWindowEnabled(window)) return AnswerAnyhow(window);
+    }
+
+    // Listing the windows costs as much as all the rest; new ones come with a page.
+    void Look() {
+        if (all_.empty() || TextOf(Of(kHeadingId)) != page_.heading) all_ = ControlsOf(main_);
+        controls_.clear();
+        for (Control control : all_) {
+            const auto style = static_cast<DWORD>(GetWindowLongW(control.window, GWL_STYLE));
+            control.type = style & BS_TYPEMASK;
+            if (style & WS_VISIBLE) controls_.push_back(control);
+        }
+    }
+
+    // The visible control of that number, or null.
+    HWND Of(int id) const {
+        for (const Control& control : controls_)
+            if (control.id == id) return control.window;
+        return nullptr;
+    }
+
+    // A box or another window in front: any of its buttons, in a window a key before it.
+    void AnswerAnyhow(HWND modal) {
+        HWND label = GetDlgItem(modal, kBoxTextId);
+        const std::wstring text = label ? TextOf(label) : L"";
+        const bool ofSystem = TextOf(modal).find(L"Wine") != std::wstring::npos; // from the window's menu
+        if (label && !ofSystem && !IsKnownMessage(text)) Fail(L"an unexpected message: " + text);
+        std::vector<HWND> buttons;
+        for (const Control& control : ControlsOf(modal))
+            if (control.IsButton() && IsWindowVisible(control.window) && IsWindowEnabled(control.window))
+                buttons.push_back(control.window);
+        if (buttons.empty()) return; // still being opened
+        // Mostly not the end of the program.
+        const bool stays = text.starts_with(L"W A R N I N G") && Below(16) != 0;
+        HWND button = stays ? GetDlgItem(modal, IDNO) : OneOf(buttons);
+        Did(L"answer " + TextOf(button) + L" to " + text.substr(0, 30));
+        if (!label) PostMessageW(GetFocus(), WM_KEYDOWN, OneOf(kKeys), 1);
+        PostMessageW(button, BM_CLICK, 0, 0);
+    }
+
+    void CheckForm() {
+        if (HWND focus = GetFocus(); !focus || !IsChild(main_, focus)) Fail(L"nothing has the focus");
+        const auto defaults = std::count_if(controls_.begin(), controls_.end(), [](const Control& control) {
+            return control.IsButton() && control.type == BS_DEFPUSHBUTTON;
+        });
+        if (defaults != 1) Fail(std::to_wstring(defaults) + L" default buttons");
+    }
+
+    Shown WhatIsShown() const {
+        Shown shown{TextOf(Of(kHeadingId)), {}};
+        for (const Control& control : controls_) {
+            if (!control.IsInput()) continue;
+            if (control.kind == L"Edit") {
+                shown.texts.push_back(TextOf(control.window));
+            } else if (!control.IsButton()) {
+                const UINT question = control.kind == L"ListBox" ? LB_GETCURSEL : CB_GETCURSEL;
+                shown.index = static_cast<int>(SendMessageW(control.window, question, 0, 0));
+            } else {
+                const int place = shown.places++;
+                if (SendMessageW(control.window, BM_GETCHECK, 0, 0) != BST_CHECKED) continue;
+                shown.set |= 1 << place;
+                if (shown.option < 0) shown.option = place;
+            }
+        }
+        return shown;
+    }
+
+    // A page that was left has stored what it showed, a page that opens shows what is stored.
+    void CheckAnswers() {
+        Shown now = WhatIsShown();
+        if (now.heading != page_.heading) {
+            const bool created = page_.heading == kNamePage && now.heading == kLastPage;
+            for (const Row& row : kRows) {
+                const bool skipped = row.skippedTo && now.heading == row.skippedTo;
+                if (page_.heading == row.heading && !skipped && !created) Compare(row, page_, true);
+                if (now.heading == row.heading) Compare(row, now, false);
+            }
+            if (created) CheckFile();
+            if (now.heading == L"Confirm CNC file location") NoteLocation();
+        }
+        page_ = std::move(now);
+    }
+
+    void Compare(const Row& row, const Shown& shown, bool left) {
+        const int chosen = row.how == Stores::Set ? shown.set : shown.places ? shown.option : shown.index;
+        if (row.index && *row.index != std::max(chosen, 0))
+            Fail(std::wstring(row.heading) + L" shows " + std::to_wstring(chosen) + L", stored is " +
+                 std::to_wstring(*row.index));
+        for (std::size_t i = 0; i < 2 && row.texts[i]; ++i) {
+            // What cannot be stored leaves the answer as it was.
+            const std::wstring& typed = shown.texts.at(i);
+            const bool plain = typed.size() <= (i == 0 ? kCodesLength : 3) &&
+                               std::all_of(typed.begin(), typed.end(),
+                                           [](wchar_t c) { return std::iswalnum(c) && c < 128; });
+            if (left && row.how == Stores::Typed && !plain) continue;
+            if (*row.texts[i] != typed)
+                Fail(std::wstring(row.heading) + L" shows \"" + typed + L"\", stored is \"" + *row.texts[i] +
+                     L"\"");
+        }
+    }
+
+    // The file that has just been made is that of the answers, byte for byte but for the icon.
+    void CheckFile() {
+        ++notes_.created;
+        const std::wstring& typed = page_.texts.at(0);
+        const std::size_t from = typed.find_first_not_of(L' ');
+        const std::wstring name = typed.substr(from, typed.find_last_not_of(L' ') - from + 1);
+        std::vector<unsigned char> bytes(2 * kDcpFileSize);
+        DWORD size = 0;
+        const HANDLE file = CreateFileW(ConfigurationFile(name).c_str(), GENERIC_READ, FILE_SHARE_READ,
+                                        nullptr, OPEN_EXISTING, 0, nullptr);
+        ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &size, nullptr);
+        CloseHandle(file);
+        DcpRecords records;
+        SetDcpHeaderDefaults(records.header);
+        SetDcpRecord4Defaults(records.record4);
+        FillDcpRecords(records, answers, L"");
+        PrepareForWriting(records);
+        const auto expected = DcpBytes(records, ToAnsiByte);
+        if (size != expected.size()) Fail(L"the file has " + std::to_wstring(size) + L" bytes");
+        for (std::size_t i = 0; i < expected.size(); ++i)
+            if ((i < kIconOffset || i >= kIconEnd) && bytes[i] != expected[i])
+                Fail(L"the file differs from the answers at " + std::to_wstring(i));
+    }
+
+    void NoteLocation() {
+        const std::wstring& folders = ftwSession.location.folders;
+        const std::size_t end = wcslen(notes_.locations);
+        if (end + folders.size() + 2 > std::size(notes_.locations)) return;
+        notes_.locations[end + (folders + L";").copy(notes_.locations + end, folders.size() + 1)] = L'\0';
+    }
+
+    void Act() {
+        std::vector<Control> inputs, buttons;
+        for (const Control& control : controls_) {
+            if (control.IsInput()) inputs.push_back(control);
+            if (control.IsButton() && IsDue(control)) buttons.push_back(control);
+        }
+        const std::uint32_t choice = Below(32);
+        if (choice < 8) return Key();
+        if (choice < 11) return AccessKey();
+        if (choice < 14) return System();
+        if (choice < 21 && !inputs.empty()) return Use(OneOf(inputs));
+        if (choice < 24) return Click(OneOf(buttons).window);
+        HWND back = Of(kBackId);
+        HWND next = Of(kNextId);
+        const bool stays = choice > 29 || (page_.heading == kLastPage && Below(4) != 0);
+        Click(back && stays ? back : next ? next : Of(IDCANCEL));
+    }
+
+    // A link starts a program and Cancel asks a question: seldom, and never the other wizard.
+    bool IsDue(const Control& button) {
+        if (button.id == IDCANCEL) return Below(8) == 0;
+        return !button.IsLink() ||
+               (Below(200) == 0 && TextOf(button.window).find(L"izard") == std::wstring::npos);
+    }
+
+    void Click(HWND button) {
+        Did(L"click " + TextOf(button));
+        if (IsWindowEnabled(button)) PostMessageW(button, BM_CLICK, 0, 0);
+    }
+
+    void Key() {
+        const WORD key = OneOf(kKeys);
+        Did(L"key " + std::to_wstring(key));
+        PostMessageW(GetFocus(), WM_KEYDOWN, key, 1);
+        PostMessageW(GetFocus(), WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
+    }
+
+    void AccessKey() {
+        const auto letter = static_cast<wchar_t>(L'a' + Below(26));
+        Did(std::wstring(L"Alt+") + letter);
+        PostMessageW(GetFocus(), WM_SYSCHAR, letter, 1 << 29);
+    }
+
+    void System() {
+        constexpr UINT kDpiChanged = 0x2E0;
+        static RECT suggested;
+        if (Below(8) == 0) {
+            const WORD dpi = static_cast<WORD>(96 + 24 * Below(4));
+            GetWindowRect(main_, &suggested);
+            Did(L"resolution " + std::to_wstring(dpi));
+            PostMessageW(main_, kDpiChanged, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&suggested));
+        } else {
+            const UINT message = OneOf(kSystemMessages);
+            Did(L"message " + std::to_wstring(message));
+            PostMessageW(main_, message, Below(2), 0);
+        }
+    }
+
+    void Use(const Control& input) {
+        const auto send = [&](UINT message, WPARAM wParam, LPARAM lParam = 0) {
+            return static_cast<std::uint32_t>(SendMessageW(input.window, message, wParam, lParam));
+        };
+        const auto notify = [&](WORD code) {
+            SendMessageW(main_, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(input.window), code),
+                         reinterpret_cast<LPARAM>(input.window));
+        };
+        if (input.IsButton()) return Click(input.window);
+        if (input.kind == L"Edit") return Type(input.window);
+        Did(L"choose in a " + input.kind);
+        if (input.kind == L"ComboBox") {
+            send(CB_SETCURSEL, Below(send(CB_GETCOUNT, 0)));
+            notify(CBN_SELCHANGE);
+        } else {
+            const std::uint32_t item = Below(std::max(send(LB_GETCOUNT, 0), 1U));
+            send(LB_SETCURSEL, item);
+            send(LB_SETSEL, Below(2), static_cast<LPARAM>(item));
+            notify(LBN_SELCHANGE);
+        }
+    }
+
+    void Type(HWND box) {
+        const std::wstring& bad = OneOf(BadTexts()).text;
+        if (Below(3) == 0) {
+            Did(L"type a character");
+            PostMessageW(box, WM_CHAR, OneOf(bad + L"x"), 1);
+        } else if (Below(2) == 0) {
+            const std::wstring text = L"M" + std::to_wstring(Below(1000000));
+            Did(L"type " + text);
+            SetWindowTextW(box, text.c_str());
+        } else { // as pasted: up to the limit and beyond
+            Did(L"paste " + bad);
+            SendMessageW(box, EM_SETSEL, Below(3), static_cast<LPARAM>(Below(20)));
+            SendMessageW(box, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(bad.c_str()));
+        }
+    }
+
+    MonkeyNotes& notes_;
+    const HANDLE turnEnds_;
+    std::mt19937 random_;
+    HWND main_ = nullptr;
+    std::vector<Control> all_, controls_; // of these the visible ones
+    Shown page_;                          // as it was at the last turn
+};
+
+Monkey monkey;
+
+LRESULT CALLBACK Monkey::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message != kMonkeyTurn) return DefWindowProcW(window, message, wParam, lParam);
+    monkey.Turn();
+    return 0;
+}
+
+} // namespace
