@@ -1,75 +1,42 @@
 #include "endurance/BadText.h"
 
-#include <string_view>
-
 namespace {
 
-using namespace std::literals;
-
-struct Row {
-    std::wstring_view text;
-    As name;
-};
-
 // clang-format off
-constexpr Row kTexts[] = {
+constexpr const wchar_t* kRefused[] = {
     // devices
-    {L"CON"sv,              As::Refused}, {L"con"sv,             As::Refused}, {L"PRN"sv,           As::Refused},
-    {L"AUX"sv,              As::Refused}, {L"NUL"sv,             As::Refused}, {L"nul.txt"sv,       As::Refused},
-    {L"COM1"sv,             As::Refused}, {L"COM9"sv,            As::Refused}, {L"COM1 "sv,         As::Refused},
-    {L" COM1"sv,            As::Refused}, {L"COM1 .x"sv,         As::Refused}, {L"COM1.a.b"sv,      As::Refused},
-    {L"COM0"sv,             As::Refused}, {L"LPT0"sv,            As::Refused}, {L"LPT1"sv,          As::Refused},
-    {L"lpt9.nc"sv,          As::Refused}, {L"COM\x00B9"sv,       As::Refused}, {L"LPT\x00B2"sv,     As::Refused},
-    {L"COM\x00B3.x"sv,      As::Refused}, {L"CONIN$"sv,          As::Refused}, {L"conout$"sv,       As::Refused},
-    {L"\\\\.\\COM1"sv,      As::Refused}, {L"COM1:"sv,           As::Refused}, {L"AUX .DCP"sv,      As::Refused},
-    {L"COM10"sv,            As::File},    {L"COMX"sv,            As::File},    {L"COM"sv,           As::File},
-    {L"LPT"sv,              As::File},    {L"NULL"sv,            As::File},    {L"CONS"sv,          As::File},
-    {L"x.COM1"sv,           As::File},    {L"CLOCK$"sv,          As::File},    {L"COM1x"sv,         As::File},
+    L"CON", L"con", L"PRN", L"AUX", L"NUL", L"nul.txt", L"COM1", L"COM9", L"COM1 ", L" COM1", L"COM1 .x",
+    L"COM1.a.b", L"COM0", L"LPT0", L"LPT1", L"lpt9.nc", L"COM\x00B9", L"LPT\x00B2", L"COM\x00B3.x", L"CONIN$",
+    L"conout$", L"\\\\.\\COM1", L"COM1:", L"AUX .DCP",
     // ways elsewhere
-    {L"."sv,                As::Refused}, {L".."sv,              As::Refused}, {L"..."sv,           As::Refused},
-    {L"..\\x"sv,            As::Refused}, {L"../x"sv,            As::Refused}, {L"a/b"sv,           As::Refused},
-    {L"a\\b"sv,             As::Refused}, {L"C:x"sv,             As::Refused}, {L"C:\\x"sv,         As::Refused},
-    {L"\\\\?\\x"sv,         As::Refused}, {L"\\\\host\\share"sv, As::Refused}, {L"x:stream"sv,      As::Refused},
-    {L"x::$DATA"sv,         As::Refused}, {L"\\"sv,              As::Refused}, {L"/"sv,             As::Refused},
-    {L".. "sv,              As::Refused}, {L" ."sv,              As::Refused}, {L".\\x"sv,          As::Refused},
+    L".", L"..", L"...", L"..\\x", L"../x", L"a/b", L"a\\b", L"C:x", L"C:\\x", L"\\\\?\\x", L"\\\\host\\share",
+    L"x:stream", L"x::$DATA", L"\\", L"/", L".. ", L" .", L".\\x",
     // tails that get lost
-    {L"abc."sv,             As::Refused}, {L"abc.."sv,           As::Refused}, {L"abc. "sv,         As::Refused},
-    {L"abc . "sv,           As::Refused}, {L"tail blank "sv,     As::File},    {L" head blank"sv,   As::File},
-    {L"tab\t"sv,            As::Refused}, {L"\ttab"sv,           As::Refused}, {L".head"sv,         As::File},
+    L"abc.", L"abc..", L"abc. ", L"abc . ", L"tab\t", L"\ttab",
     // the nine characters, wildcards among them
-    {L"a*b"sv,              As::Refused}, {L"a?b"sv,             As::Refused}, {L"a\"b"sv,          As::Refused},
-    {L"a<b"sv,              As::Refused}, {L"a>b"sv,             As::Refused}, {L"a|b"sv,           As::Refused},
-    {L"a:b"sv,              As::Refused}, {L"*"sv,               As::Refused}, {L"?"sv,             As::Refused},
-    {L"*.*"sv,              As::Refused}, {L"\""sv,              As::Refused}, {L"<b>x</b>"sv,      As::Refused},
+    L"a*b", L"a?b", L"a\"b", L"a<b", L"a>b", L"a|b", L"a:b", L"*", L"?", L"*.*", L"\"", L"<b>x</b>",
     // control characters
-    {L"a\x01z"sv,           As::Refused}, {L"a\x02z"sv,          As::Refused}, {L"a\x07z"sv,        As::Refused},
-    {L"a\x08z"sv,           As::Refused}, {L"a\tz"sv,            As::Refused}, {L"a\x0Bz"sv,        As::Refused},
-    {L"a\x0Cz"sv,           As::Refused}, {L"a\x1Bz"sv,          As::Refused}, {L"a\x1Fz"sv,        As::Refused},
-    {L"a\x7Fz"sv,           As::Refused}, {L"a\x81z"sv,          As::Refused}, {L"a\x9Fz"sv,        As::Refused},
+    L"a\x01z", L"a\x02z", L"a\x07z", L"a\x08z", L"a\tz", L"a\x0Bz", L"a\x0Cz", L"a\x1Bz", L"a\x1Fz", L"a\x7Fz",
+    L"a\x81z", L"a\x9Fz",
     // nothing
-    {L""sv,                 As::Refused}, {L" "sv,               As::Refused}, {L"          "sv,    As::Refused},
-    {L"\t"sv,               As::Refused}, {L"\x00A0"sv,          As::File},    {L"\x3000"sv,        As::Refused},
+    L"", L" ", L"          ", L"\t", L"\x3000",
     // outside the code page, best-fit characters among them
-    {L"\xD83D\xDE00"sv,     As::Refused}, {L"a\xD83D\xDE00z"sv,  As::Refused}, {L"a\xD83Dz"sv,      As::Refused},
-    {L"a\xDE00z"sv,         As::Refused}, {L"\x05E9\x05DC"sv,    As::Refused}, {L"\x0645\x0631"sv,  As::Refused},
-    {L"a\x202Egpj.z"sv,     As::Refused}, {L"a\x200Fz"sv,        As::Refused}, {L"a\x200Bz"sv,      As::Refused},
-    {L"e\x0301"sv,          As::Refused}, {L"\xFF21\xFF22"sv,    As::Refused}, {L"a\x2215z"sv,      As::Refused},
-    {L"a\xFF0Fz"sv,         As::Refused}, {L"a\xFF3Cz"sv,        As::Refused}, {L"a\xFF1Az"sv,      As::Refused},
-    {L"\xFF23\xFF2F\xFF2D\xFF11"sv, As::Refused},                              {L"a\x2044z"sv,      As::Refused},
-    {L"a\x0430z"sv,         As::Refused}, {L"\x4E2D\x6587"sv,    As::Refused}, {L"a\xFFFEz"sv,      As::Refused},
-    {L"a\xFFFFz"sv,         As::Refused}, {L"a\xFEFFz"sv,        As::Refused}, {L"\x0141\x00F3"sv,  As::Refused},
-    {L"a\x2028z"sv,         As::Refused}, {L"a\xE000z"sv,        As::Refused}, {L"a\x0131z"sv,      As::Refused},
-    // odd but whole; the first two names are there already
-    {L"%TEMP%"sv,           As::File},    {L"%1"sv,              As::File},    {L"%s%n%x"sv,        As::File},
-    {L"Mixed Case"sv,       As::Refused},   {L"MIXED CASE"sv,      As::Refused}, {L"mixed case"sv,    As::Refused},
-    {L"\x00DC\x00F6\x00DF"sv, As::Refused}, {L"\x00FC\x00D6\x00DF"sv, As::Refused}, {L"\x20AC 5"sv,   As::File},
-    {L"a&b"sv,              As::File},    {L"&File"sv,           As::File},    {L"a'b"sv,           As::File},
-    {L"a;b"sv,              As::File},    {L"a,b"sv,             As::File},    {L"a=b"sv,           As::File},
-    {L"[General]"sv,        As::File},    {L"{x}"sv,             As::File},    {L"$(x)"sv,          As::File},
-    {L"`x`"sv,              As::File},    {L"~"sv,               As::File},    {L"a^b"sv,           As::File},
-    {L"!"sv,                As::File},    {L"#"sv,               As::File},    {L"@"sv,             As::File},
-    {L"x.DCP"sv,            As::File},    {L"x.dcp.dcp"sv,       As::File},    {L"VarnelDnc.ini"sv, As::File},
-    {L"two  blanks"sv,      As::File},    {L"-x"sv,              As::File},    {L"0"sv,             As::File},
+    L"\xD83D\xDE00", L"a\xD83D\xDE00z", L"a\xD83Dz", L"a\xDE00z", L"\x05E9\x05DC", L"\x0645\x0631",
+    L"a\x202Egpj.z", L"a\x200Fz", L"a\x200Bz", L"e\x0301", L"\xFF21\xFF22", L"a\x2215z", L"a\xFF0Fz",
+    L"a\xFF3Cz", L"a\xFF1Az", L"\xFF23\xFF2F\xFF2D\xFF11", L"a\x2044z", L"a\x0430z", L"\x4E2D\x6587",
+    L"a\xFFFEz", L"a\xFFFFz", L"a\xFEFFz", L"\x0141\x00F3", L"a\x2028z", L"a\xE000z", L"a\x0131z",
+    // there already, or equal to these but for case
+    L"Mixed Case", L"MIXED CASE", L"mixed case", L"\x00DC\x00F6\x00DF", L"\x00FC\x00D6\x00DF",
+};
+constexpr const wchar_t* kFiles[] = {
+    // not quite devices
+    L"COM10", L"COMX", L"COM", L"LPT", L"NULL", L"CONS", L"x.COM1", L"CLOCK$", L"COM1x",
+    // tails that get lost
+    L"tail blank ", L" head blank", L".head",
+    // odd but whole
+    L"\x00A0", L"%TEMP%", L"%1", L"%s%n%x", L"\x20AC 5", L"a&b", L"&File", L"a'b", L"a;b", L"a,b", L"a=b", L"[General]",
+    L"{x}", L"$(x)", L"`x`", L"~", L"a^b", L"!", L"#", L"@", L"x.DCP", L"x.dcp.dcp", L"VarnelDnc.ini",
+    L"two  blanks", L"-x", L"0",
 };
 // clang-format on
 
@@ -77,13 +44,14 @@ constexpr Row kTexts[] = {
 
 const std::vector<BadText>& BadTexts() {
     static const std::vector<BadText> texts = [] {
-        std::vector<BadText> all;
-        for (const Row& row : kTexts)
-            all.push_back({std::wstring(row.text), row.name});
-        all.push_back({std::wstring(300, L'n'), As::Refused});
-        all.push_back({std::wstring(5000, L'n'), As::Refused});
-        all.push_back({std::wstring(30000, L'\\'), As::Refused});
-        all.push_back({std::wstring(251, L'\x00E4'), As::Refused});
+        std::vector<BadText> all = {{std::wstring(300, L'n'), As::Refused},
+                                    {std::wstring(5000, L'n'), As::Refused},
+                                    {std::wstring(30000, L'\\'), As::Refused},
+                                    {std::wstring(251, L'\x00E4'), As::Refused}};
+        for (const wchar_t* text : kRefused)
+            all.push_back({text, As::Refused});
+        for (const wchar_t* text : kFiles)
+            all.push_back({text, As::File});
         return all;
     }();
     return texts;

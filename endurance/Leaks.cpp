@@ -10,7 +10,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <stdexcept>
 
 namespace {
 
@@ -33,7 +32,7 @@ int GdiObjects(HANDLE process) {
     const auto* peb = reinterpret_cast<const unsigned char*>(basic.PebBaseAddress);
     if (!ReadProcessMemory(process, peb + kTableInPeb, &table, sizeof table, nullptr) ||
         !ReadProcessMemory(process, table, entries.data(), entries.size(), nullptr))
-        throw std::runtime_error("cannot read the table of GDI objects");
+        Fail(L"cannot read the table of GDI objects");
     int count = 0;
     for (std::size_t i = 0; i < kEntries; ++i)
         count += entries[i * kStride + kType] != 0;
@@ -101,27 +100,12 @@ class Patient {
     Walker& Walk() { return *walker_; }
     const DemoSuite& Suite() const { return suite_; }
 
-    void ClickTo(const wchar_t* caption, const wchar_t* heading) {
+    void ClickTo(HWND (Walker::*way)() const, const wchar_t* heading) {
         for (int i = 0; i < 40 && walker_->Heading() != heading; ++i) {
-            HWND button = walker_->Button(caption);
-            if (!button) throw std::runtime_error("no way to the page " + Utf8(heading));
-            walker_->Press(button);
-            Answer(IDOK);
+            walker_->Press(((*walker_).*way)());
+            walker_->Answer();
         }
-    }
-    void Answer(int button) {
-        while (walker_->WaitUntilReady()) {
-            HWND modal = walker_->Modal();
-            if (!modal) return;
-            HWND found = GetDlgItem(modal, button);
-            if (!found) {
-                walker_->AnswerModal(modal);
-                continue;
-            }
-            SendNotifyMessageW(found, BM_CLICK, 0, 0);
-            wizard_->Until([modal] { return !IsWindow(modal) || !IsWindowVisible(modal); },
-                           L"an end of a window");
-        }
+        if (walker_->Heading() != heading) Fail(std::wstring(L"no way to the page ") + heading);
     }
 
   private:
@@ -132,39 +116,39 @@ class Patient {
 };
 
 void TourNdw(Patient& patient) {
-    patient.ClickTo(L"&Next >", L"Configuration Name");
-    patient.ClickTo(L"< Back", L"New CNC Configuration");
+    patient.ClickTo(&Walker::Next, L"Configuration Name");
+    patient.ClickTo(&Walker::Back, L"New CNC Configuration");
 }
 
 void TourFtw(Patient& patient) {
-    patient.ClickTo(L"&Next >", L"Finished");
-    patient.ClickTo(L"< Back", L"Getting Started"); // the pages before it hide Back
-    patient.ClickTo(L"< Back", L"Choose setup mode");
+    patient.ClickTo(&Walker::Next, L"Finished");
+    patient.ClickTo(&Walker::Back, L"Getting Started"); // the pages before it hide Back
+    patient.ClickTo(&Walker::Back, L"Choose setup mode");
 }
 
 void AskToExit(Patient& patient) {
     SendNotifyMessageW(patient.Walk().Main(), WM_CLOSE, 0, 0);
-    patient.Answer(IDNO);
+    patient.Walk().Answer(IDNO);
 }
 
 // The picker opens, and a folder in the way keeps the file from being made.
 void PickIcon(Patient& patient) {
-    patient.ClickTo(L"&Next >", L"Configuration Name");
+    patient.ClickTo(&Walker::Next, L"Configuration Name");
     patient.Walk().name = L"Blocked";
     CreateDirectoryW((patient.Suite().Settings() + L"Blocked.DCP").c_str(), nullptr);
-    if (patient.Walk().CreateConfiguration().empty()) throw std::runtime_error("the file was made");
+    if (patient.Walk().CreateConfiguration().empty()) Fail(L"the file was made");
 }
 
 void Import(Patient& patient) {
-    patient.ClickTo(L"&Next >", L"Import Sample CNC Configuration Files");
+    patient.ClickTo(&Walker::Next, L"Import Sample CNC Configuration Files");
     DeleteFileW((patient.Suite().Settings() + L"Sample.dcp").c_str());
-    for (HWND child : ChildrenOf(patient.Walk().Main()))
-        if (ClassOf(child) == L"ListBox") Ask(child, LB_SETSEL, TRUE, 0);
+    for (HWND list : ChildrenOf(patient.Walk().Main(), L"ListBox"))
+        Ask(list, LB_SETSEL, TRUE, 0);
     patient.Walk().Press(patient.Walk().Next());
-    patient.Answer(IDYES);
-    for (int i = 0; FileNames(patient.Suite().Settings(), L"Sample.dcp").empty(); ++i, Sleep(10))
-        if (i > 500) throw std::runtime_error("no import");
-    patient.ClickTo(L"< Back", L"Import Sample CNC Configuration Files");
+    patient.Walk().Answer();
+    for (int i = 0; !Exists(patient.Suite().Settings() + L"Sample.dcp"); ++i, Sleep(10))
+        if (i > 500) Fail(L"no import");
+    patient.ClickTo(&Walker::Back, L"Import Sample CNC Configuration Files");
 }
 
 struct Row {

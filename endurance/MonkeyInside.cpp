@@ -1,6 +1,7 @@
 // Linked in front of the wizard's own objects: a random user in the window thread. At each turn it looks at
 // what the last event has led to, and posts another one. Being inside, it reads every control for next to
 // nothing, and knows the answers that the pages have stored.
+#include "app/Names.h"
 #include "app/Text.h"
 #include "app/modLocations.h"
 #include "endurance/BadText.h"
@@ -9,6 +10,7 @@
 #include "ftw/FtwPages.h"
 #include "ndw/NdwPages.h"
 #include "ndw/modDcp.h"
+#include "win/Handles.h"
 
 #include <algorithm>
 #include <cwctype>
@@ -52,9 +54,10 @@ const Row kRows[] = {
                                                                         L"Configure Communication Options"},
 };
 
+constexpr UINT kCaretTimer = 0x118, kDpiChanged = 0x2E0;
 constexpr UINT kSystemMessages[] = {
     WM_SETTINGCHANGE, WM_SYSCOLORCHANGE, WM_THEMECHANGED, WM_FONTCHANGE, WM_DISPLAYCHANGE, WM_TIMECHANGE,
-    WM_QUERYENDSESSION, WM_ENDSESSION, WM_CLOSE, WM_CANCELMODE, WM_DEVICECHANGE,
+    WM_QUERYENDSESSION, WM_ENDSESSION, WM_CLOSE, WM_CANCELMODE, WM_DEVICECHANGE, kDpiChanged,
 };
 constexpr WORD kKeys[] = {
     VK_TAB, VK_TAB, VK_TAB, VK_SPACE, VK_RETURN, VK_ESCAPE, VK_UP, VK_DOWN, VK_LEFT, VK_RIGHT, VK_HOME,
@@ -63,7 +66,6 @@ constexpr WORD kKeys[] = {
 // clang-format on
 
 constexpr int kNextId = 100, kBackId = 101, kHeadingId = 120, kBoxTextId = 65535;
-constexpr UINT kCaretTimer = 0x118;
 constexpr std::size_t kIconOffset = 114, kIconEnd = 178;
 
 struct Control {
@@ -73,7 +75,6 @@ struct Control {
     DWORD type;        // of a button
 
     bool IsButton() const { return kind == L"Button"; }
-    bool IsLink() const { return IsButton() && type == BS_OWNERDRAW; }
     bool IsInput() const {
         return IsButton() ? type != BS_OWNERDRAW && type != BS_PUSHBUTTON && type != BS_DEFPUSHBUTTON
                           : kind == L"Edit" || kind == L"ListBox" || kind == L"ComboBox";
@@ -283,15 +284,12 @@ class Monkey {
     // The file that has just been made is that of the answers, byte for byte but for the icon.
     void CheckFile() {
         ++notes_.created;
-        const std::wstring& typed = page_.texts.at(0);
-        const std::size_t from = typed.find_first_not_of(L' ');
-        const std::wstring name = typed.substr(from, typed.find_last_not_of(L' ') - from + 1);
         std::vector<unsigned char> bytes(2 * kDcpFileSize);
         DWORD size = 0;
-        const HANDLE file = CreateFileW(ConfigurationFile(name).c_str(), GENERIC_READ, FILE_SHARE_READ,
-                                        nullptr, OPEN_EXISTING, 0, nullptr);
-        ReadFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &size, nullptr);
-        CloseHandle(file);
+        const std::wstring path = ConfigurationFile(TrimBlanks(page_.texts.at(0)));
+        const win::UniqueKernelHandle file(
+            CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
+        ReadFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &size, nullptr);
         DcpRecords records;
         SetDcpHeaderDefaults(records.header);
         SetDcpRecord4Defaults(records.record4);
@@ -318,8 +316,8 @@ class Monkey {
             if (control.IsButton() && IsDue(control)) buttons.push_back(control);
         }
         const std::uint32_t choice = Below(32);
-        if (choice < 8) return Key();
-        if (choice < 11) return AccessKey();
+        if (choice < 8) return Key(GetFocus());
+        if (choice < 11) return AccessKey(GetFocus());
         if (choice < 14) return System();
         if (choice < 21 && !inputs.empty()) return Use(OneOf(inputs));
         if (choice < 24) return Click(OneOf(buttons).window);
@@ -332,8 +330,8 @@ class Monkey {
     // A link starts a program and Cancel asks a question: seldom, and never the other wizard.
     bool IsDue(const Control& button) {
         if (button.id == IDCANCEL) return Below(8) == 0;
-        return !button.IsLink() ||
-               (Below(200) == 0 && TextOf(button.window).find(L"izard") == std::wstring::npos);
+        const bool link = button.type == BS_OWNERDRAW;
+        return !link || (Below(200) == 0 && TextOf(button.window).find(L"izard") == std::wstring::npos);
     }
 
     void Click(HWND button) {
@@ -341,70 +339,57 @@ class Monkey {
         if (IsWindowEnabled(button)) PostMessageW(button, BM_CLICK, 0, 0);
     }
 
-    void Key() {
+    void Key(HWND window) {
         const WORD key = OneOf(kKeys);
         Did(L"key " + std::to_wstring(key));
-        PostMessageW(GetFocus(), WM_KEYDOWN, key, 1);
-        PostMessageW(GetFocus(), WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
+        PostMessageW(window, WM_KEYDOWN, key, 1);
+        PostMessageW(window, WM_KEYUP, key, static_cast<LPARAM>(0xC0000001));
     }
 
-    void AccessKey() {
+    void AccessKey(HWND window) {
         const auto letter = static_cast<wchar_t>(L'a' + Below(26));
         Did(std::wstring(L"Alt+") + letter);
-        PostMessageW(GetFocus(), WM_SYSCHAR, letter, 1 << 29);
+        PostMessageW(window, WM_SYSCHAR, letter, 1 << 29);
     }
 
     void System() {
-        constexpr UINT kDpiChanged = 0x2E0;
         static RECT suggested;
-        if (Below(8) == 0) {
-            const WORD dpi = static_cast<WORD>(96 + 24 * Below(4));
-            GetWindowRect(main_, &suggested);
-            Did(L"resolution " + std::to_wstring(dpi));
-            PostMessageW(main_, kDpiChanged, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&suggested));
-        } else {
-            const UINT message = OneOf(kSystemMessages);
-            Did(L"message " + std::to_wstring(message));
-            PostMessageW(main_, message, Below(2), 0);
-        }
+        GetWindowRect(main_, &suggested);
+        const UINT message = OneOf(kSystemMessages);
+        const WORD dpi = static_cast<WORD>(96 + 24 * Below(4));
+        const bool dpiChanges = message == kDpiChanged;
+        Did(L"message " + std::to_wstring(message) + L" " + std::to_wstring(dpi));
+        PostMessageW(main_, message, dpiChanges ? MAKEWPARAM(dpi, dpi) : dpi == 96,
+                     dpiChanges ? reinterpret_cast<LPARAM>(&suggested) : 0);
     }
 
     void Use(const Control& input) {
-        const auto send = [&](UINT message, WPARAM wParam, LPARAM lParam = 0) {
-            return static_cast<std::uint32_t>(SendMessageW(input.window, message, wParam, lParam));
-        };
-        const auto notify = [&](WORD code) {
-            SendMessageW(main_, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(input.window), code),
-                         reinterpret_cast<LPARAM>(input.window));
-        };
+        const bool combo = input.kind == L"ComboBox";
         if (input.IsButton()) return Click(input.window);
         if (input.kind == L"Edit") return Type(input.window);
-        Did(L"choose in a " + input.kind);
-        if (input.kind == L"ComboBox") {
-            send(CB_SETCURSEL, Below(send(CB_GETCOUNT, 0)));
-            notify(CBN_SELCHANGE);
-        } else {
-            const std::uint32_t item = Below(std::max(send(LB_GETCOUNT, 0), 1U));
-            send(LB_SETCURSEL, item);
-            send(LB_SETSEL, Below(2), static_cast<LPARAM>(item));
-            notify(LBN_SELCHANGE);
-        }
+        const auto count =
+            static_cast<std::uint32_t>(SendMessageW(input.window, combo ? CB_GETCOUNT : LB_GETCOUNT, 0, 0));
+        const std::uint32_t item = Below(std::max(count, 1U));
+        Did(L"choose " + std::to_wstring(item));
+        SendMessageW(input.window, combo ? CB_SETCURSEL : LB_SETCURSEL, item, 0);
+        if (!combo) SendMessageW(input.window, LB_SETSEL, Below(2), static_cast<LPARAM>(item));
+        static_assert(CBN_SELCHANGE == LBN_SELCHANGE);
+        SendMessageW(main_, WM_COMMAND, MAKEWPARAM(input.id, CBN_SELCHANGE),
+                     reinterpret_cast<LPARAM>(input.window));
     }
 
     void Type(HWND box) {
         const std::wstring& bad = OneOf(BadTexts()).text;
-        if (Below(3) == 0) {
-            Did(L"type a character");
-            PostMessageW(box, WM_CHAR, OneOf(bad + L"x"), 1);
-        } else if (Below(2) == 0) {
-            const std::wstring text = L"M" + std::to_wstring(Below(1000000));
-            Did(L"type " + text);
-            SetWindowTextW(box, text.c_str());
-        } else { // as pasted: up to the limit and beyond
-            Did(L"paste " + bad);
-            SendMessageW(box, EM_SETSEL, Below(3), static_cast<LPARAM>(Below(20)));
-            SendMessageW(box, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(bad.c_str()));
-        }
+        const std::uint32_t choice = Below(3);
+        const std::wstring text = choice == 0   ? std::wstring(1, OneOf(bad + L"x"))
+                                  : choice == 1 ? L"M" + std::to_wstring(Below(1000000))
+                                                : bad;
+        Did((choice == 2 ? L"paste " : L"type ") + text);
+        if (choice == 0) PostMessageW(box, WM_CHAR, text[0], 1);
+        if (choice == 1) SetWindowTextW(box, text.c_str());
+        if (choice < 2) return;
+        SendMessageW(box, EM_SETSEL, Below(3), static_cast<LPARAM>(Below(20)));
+        SendMessageW(box, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
     }
 
     MonkeyNotes& notes_;

@@ -1,5 +1,6 @@
 // Each of the bad texts, and names about as long as a path may be, as the name of a configuration: a message
 // or just one regular file of just that name, and nothing anywhere else.
+#include "app/Names.h"
 #include "endurance/BadText.h"
 #include "endurance/Scene.h"
 #include "endurance/Soak.h"
@@ -26,12 +27,6 @@ std::wstring Shown(const std::wstring& text) {
     return L"\"" + shown + L"\" (" + std::to_wstring(text.size()) + L")";
 }
 
-std::wstring WithoutBlanks(const std::wstring& text) {
-    const auto first = text.find_first_not_of(L' ');
-    if (first == std::wstring::npos) return {};
-    return text.substr(first, text.find_last_not_of(L' ') - first + 1);
-}
-
 std::vector<BadText> AllNames(std::size_t longest) {
     std::vector<BadText> names = BadTexts();
     for (const std::size_t length : {std::size_t{1}, longest - 1, longest})
@@ -46,28 +41,18 @@ void Try(Tally& tally, const DemoSuite& suite, Walker& walker, const BadText& na
     const auto before = Tree(suite.Folder());
     const std::wstring message = walker.CreateConfiguration();
     const auto changes = Changes(before, Tree(suite.Folder()));
-    const bool created = walker.Heading() == L"Finished";
-    if (created) {
-        const std::wstring path = suite.Settings() + WithoutBlanks(name.text) + L".DCP";
-        const bool just = changes.size() == 1 && changes[0] == path + L"|" + std::to_wstring(kFileSize);
-        tally.Expect(
-            just && name.name == As::File,
-            shown + L" made " +
-                (changes.empty() ? L"nothing" : std::to_wstring(changes.size()) + L": " + changes[0]));
+    const std::wstring made = changes.empty() ? L"nothing" : changes[0];
+    if (walker.Heading() == L"Finished") {
+        const std::wstring path = suite.Settings() + TrimBlanks(name.text) + L".DCP";
+        tally.Expect(name.name == As::File && changes.size() == 1 &&
+                         made == path + L"|" + std::to_wstring(kFileSize),
+                     shown + L" made " + std::to_wstring(changes.size()) + L": " + made);
         SendNotifyMessageW(walker.Button(L"&New"), BM_CLICK, 0, 0);
         tally.Expect(walker.Walk().trouble.empty(), shown + L": no way back to the name page");
     } else {
         tally.Expect(changes.empty() && name.name == As::Refused && !message.empty(),
-                     shown + L" was refused with \"" + message + L"\"" +
-                         (changes.empty() ? L"" : L" but made " + changes[0]));
+                     shown + L" was refused with \"" + message + L"\" and made " + made);
     }
-}
-
-// Ports of the prefix that lead to a plain file: whoever opens them for writing leaves a trace.
-bool DevicesUntouched() {
-    wchar_t file[MAX_PATH] = L"";
-    if (!GetEnvironmentVariableW(L"SOAK_DEVICE", file, MAX_PATH)) return false;
-    return FileBytes(file) == "untouched\n";
 }
 
 } // namespace
@@ -89,6 +74,7 @@ void CheckNames(Tally& tally) {
     for (const std::wstring& change : Changes(drive, Tree(L"C:\\")))
         tally.Expect(change.starts_with(suite.Settings()) || change.find(L".log|") != std::wstring::npos,
                      L"changed elsewhere: " + change);
-    tally.Expect(DevicesUntouched(), L"a port was written to");
+    // Ports of the prefix lead to a plain file: whoever opens them for writing leaves a trace.
+    tally.Expect(FileBytes(FromEnvironment(L"SOAK_DEVICE")) == "untouched\n", L"a port was written to");
     tally.Note(std::to_string(names.size()) + " names");
 }

@@ -42,17 +42,16 @@ class Foreign {
         for (int i = 0; i < count; ++i)
             windows.push_back(CreateWindowExW(0, kClass, title, WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 100,
                                               100, nullptr, nullptr, nullptr, nullptr));
-        if (mood_ == Mood::AnswersLate)
-            SetWindowLongPtrW(windows[0], GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Late));
+        const auto become = [&](WNDPROC procedure) {
+            if (mood_ == Mood::AnswersLate)
+                SetWindowLongPtrW(windows[0], GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
+        };
+        become(&Late);
         ready_ = true;
-        MSG message{};
-        while (!over_) {
+        for (MSG message{}; !over_; Sleep(1))
             while (mood_ != Mood::Hangs && !over_ && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
                 DispatchMessageW(&message);
-            MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, mood_ == Mood::Hangs ? 0U : QS_ALLINPUT);
-        }
-        if (mood_ == Mood::AnswersLate)
-            SetWindowLongPtrW(windows[0], GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&DefWindowProcW));
+        become(&DefWindowProcW);
         for (HWND window : windows)
             DestroyWindow(window);
     }

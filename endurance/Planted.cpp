@@ -7,7 +7,6 @@
 #include "tests/support/DemoSuite.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 namespace {
 
@@ -36,7 +35,7 @@ void LoadWithin(DWORD wizard) {
         const std::wstring file = library + std::wstring(L".dll");
         WriteProcessMemory(process, name, file.c_str(), (file.size() + 1) * sizeof(wchar_t), nullptr);
         const HANDLE thread = CreateRemoteThread(process, nullptr, 0, load, name, 0, nullptr);
-        if (!thread) throw std::runtime_error("cannot load within the wizard");
+        if (!thread) Fail(L"cannot load within the wizard");
         WaitForSingleObject(thread, 10000);
         CloseHandle(thread);
     }
@@ -45,9 +44,8 @@ void LoadWithin(DWORD wizard) {
 
 // Follows every link of the page: they are the buttons that the wizard draws itself.
 void FollowLinks(const Walker& walker) {
-    for (HWND child : ChildrenOf(walker.Main())) {
-        const auto style = static_cast<DWORD>(GetWindowLongW(child, GWL_STYLE));
-        if (ClassOf(child) != L"Button" || (style & BS_TYPEMASK) != BS_OWNERDRAW) continue;
+    for (HWND child : ChildrenOf(walker.Main(), L"Button")) {
+        if ((GetWindowLongW(child, GWL_STYLE) & BS_TYPEMASK) != BS_OWNERDRAW) continue;
         walker.Press(child);
         for (int i = 0; i < 200 && !IsWindowEnabled(walker.Main()) && !walker.Modal(); ++i)
             Sleep(10);

@@ -24,7 +24,6 @@ struct Row {
 
 constexpr wchar_t kPaths[] = L"SOFTWARE\\Varnel\\Varnel DNC\\Paths";
 constexpr wchar_t kRunOnce[] = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\RunOnce";
-constexpr wchar_t kRunOnceValue[] = L"Varnel_DNC_FTSW";
 
 Bytes Wide(const std::wstring& text) {
     const auto* first = reinterpret_cast<const unsigned char*>(text.data());
@@ -94,20 +93,18 @@ std::vector<Row> Rows(const DemoSuite& suite) {
 const std::string kIni = "[General]\r\nSecurity=0\r\n";
 
 bool Touched(const std::wstring& folder) {
-    const std::wstring file = folder + L"VarnelDnc.ini";
-    const bool touched = FileBytes(file) != kIni;
-    WriteFileBytes(file, kIni);
+    const bool touched = FileBytes(folder + kIniName) != kIni;
+    WriteFileBytes(folder + kIniName, kIni);
     return touched;
 }
 
 void Try(Tally& tally, const DemoSuite& suite, const std::wstring& common, const Row& row) {
-    if (row.type == REG_NONE)
-        RegDeleteKeyValueW(HKEY_CURRENT_USER, kPaths, L"SettingsPath");
-    else
-        RegSetKeyValueW(HKEY_CURRENT_USER, kPaths, L"SettingsPath", row.type, row.bytes.data(),
-                        static_cast<DWORD>(row.bytes.size()));
-    RegSetKeyValueW(HKEY_LOCAL_MACHINE, kRunOnce, kRunOnceValue, row.type, row.bytes.data(),
-                    static_cast<DWORD>(row.bytes.size()));
+    const auto set = [&](HKEY root, const wchar_t* key, const wchar_t* value) {
+        RegSetKeyValueW(root, key, value, row.type, row.bytes.data(), static_cast<DWORD>(row.bytes.size()));
+    };
+    RegDeleteKeyValueW(HKEY_CURRENT_USER, kPaths, L"SettingsPath");
+    if (row.type != REG_NONE) set(HKEY_CURRENT_USER, kPaths, L"SettingsPath");
+    set(HKEY_LOCAL_MACHINE, kRunOnce, L"Varnel_DNC_FTSW");
     // Relative paths lead to here: an empty folder below others.
     SetCurrentDirectoryW((suite.Folder() + L"Here\\Deep").c_str());
     const auto before = Tree(suite.Folder());
@@ -115,13 +112,12 @@ void Try(Tally& tally, const DemoSuite& suite, const std::wstring& common, const
     Walker walker(wizard);
     walker.stopAt = L"Welcome";
     const Journey journey = walker.Walk();
-    const bool ready = journey.trouble.empty() && wizard.IsRunning();
-    if (ready) walker.Close();
+    if (journey.trouble.empty() && wizard.IsRunning()) walker.Close();
     const Opens opened = Touched(suite.Settings()) ? Opens::Own
                          : Touched(common)         ? Opens::Default
                                                    : Opens::Denied;
-    const bool denied = journey.Passed(L"Permission denied!");
-    tally.Expect(journey.trouble.empty() && denied == (opened == Opens::Denied) &&
+    tally.Expect(journey.trouble.empty() &&
+                     journey.Passed(L"Permission denied!") == (opened == Opens::Denied) &&
                      (row.opens == Opens::Either || row.opens == opened),
                  row.what + L": " + std::to_wstring(static_cast<int>(opened)) + L" " + journey.trouble);
     SetCurrentDirectoryW(L"C:\\");
@@ -130,22 +126,23 @@ void Try(Tally& tally, const DemoSuite& suite, const std::wstring& common, const
         tally.Expect(relative, row.what + L" changed " + change);
         DeleteFileW(change.substr(0, change.find(L'|')).c_str());
     }
-    RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, kRunOnce, kRunOnceValue);
+    RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, kRunOnce, L"Varnel_DNC_FTSW");
 }
 
 } // namespace
 
 void CheckRegistry(Tally& tally) {
     const DemoSuite suite;
-    WriteFileBytes(suite.Settings() + L"VarnelDnc.ini", kIni);
     wchar_t path[MAX_PATH] = L"";
     SHGetSpecialFolderPathW(nullptr, path, CSIDL_COMMON_APPDATA, TRUE);
     const std::wstring common = path + std::wstring(L"\\Varnel DNC\\Settings\\");
-    SHCreateDirectoryExW(nullptr, common.c_str(), nullptr);
-    WriteFileBytes(common + L"VarnelDnc.ini", kIni);
-    SHCreateDirectoryExW(nullptr, (suite.Folder() + L"Here\\Deep").c_str(), nullptr);
+    for (const std::wstring& folder : {suite.Settings(), common, suite.Folder() + L"Here\\Deep"})
+        SHCreateDirectoryExW(nullptr, folder.c_str(), nullptr);
+    for (const std::wstring& folder : {suite.Settings(), common})
+        WriteFileBytes(folder + kIniName, kIni);
     const auto rows = Rows(suite);
     const std::size_t step = tally.Quick() ? 12 : 1;
     for (std::size_t i = tally.Seed() % step; i < rows.size(); i += step)
         Try(tally, suite, common, rows[i]);
+    tally.Note(std::to_string(rows.size()) + " values");
 }

@@ -6,22 +6,20 @@
 
 #include <algorithm>
 #include <iterator>
-#include <stdexcept>
 
 namespace {
 
 void AddTree(const std::wstring& folder, std::set<std::wstring>& tree) {
     WIN32_FIND_DATAW found{};
-    const HANDLE search = FindFirstFileW((folder + L"*").c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) return;
+    const win::UniqueFind search(FindFirstFileW((folder + L"*").c_str(), &found));
+    if (search.Get() == INVALID_HANDLE_VALUE) return;
     do {
         const std::wstring name = found.cFileName;
         if (name == L"." || name == L"..") continue;
         const bool isFolder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
         tree.insert(folder + name + (isFolder ? L"\\" : L"|" + std::to_wstring(found.nFileSizeLow)));
         if (isFolder) AddTree(folder + name + L"\\", tree);
-    } while (FindNextFileW(search, &found));
-    FindClose(search);
+    } while (FindNextFileW(search.Get(), &found));
 }
 
 } // namespace
@@ -35,7 +33,7 @@ std::wstring FromEnvironment(const wchar_t* name) {
 bool Exists(const std::wstring& path) { return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES; }
 
 void Copy(const std::wstring& from, const std::wstring& to) {
-    if (!CopyFileW(from.c_str(), to.c_str(), FALSE)) throw std::runtime_error("cannot make " + Utf8(to));
+    if (!CopyFileW(from.c_str(), to.c_str(), FALSE)) Fail(L"cannot make " + to);
 }
 
 void ReplaceProgram(const DemoSuite& suite, const wchar_t* variable) {

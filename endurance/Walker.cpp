@@ -11,16 +11,15 @@ namespace {
 constexpr UINT kAnswerTime_ms = 30000;
 constexpr DWORD kPatience_ms = 60000;
 constexpr wchar_t kFormClass[] = L"VWizardForm";
-constexpr int kNextId = 100;
-constexpr int kBackId = 101;
-constexpr int kHeadingId = 120;
-constexpr int kBoxTextId = 65535;
+constexpr int kNextId = 100, kBackId = 101, kHeadingId = 120, kBoxTextId = 65535;
 constexpr int kMostVisits = 4; // of one page without getting on
 
 BOOL CALLBACK Collect(HWND window, LPARAM data) {
     if (IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(data)->push_back(window);
     return TRUE;
 }
+
+bool IsGone(HWND window) { return !IsWindow(window) || !IsWindowVisible(window); }
 
 } // namespace
 
@@ -37,8 +36,7 @@ DWORD_PTR Ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     DWORD_PTR result = 0;
     if (!SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, kAnswerTime_ms, &result) &&
         IsWindow(window))
-        throw std::runtime_error("no answer to message " + std::to_string(message) + " of " +
-                                 Utf8(ClassOf(window)));
+        Fail(L"no answer to message " + std::to_wstring(message) + L" of " + ClassOf(window));
     return result;
 }
 
@@ -54,9 +52,10 @@ std::wstring TextOf(HWND window) {
     return text;
 }
 
-std::vector<HWND> ChildrenOf(HWND window) {
+std::vector<HWND> ChildrenOf(HWND window, const wchar_t* className) {
     std::vector<HWND> children;
     EnumChildWindows(window, Collect, reinterpret_cast<LPARAM>(&children));
+    if (className) std::erase_if(children, [&](HWND child) { return ClassOf(child) != className; });
     return children;
 }
 
@@ -68,102 +67,94 @@ void Walker::Press(HWND button) const {
 std::wstring Walker::Heading() const { return TextOf(GetDlgItem(main_, kHeadingId)); }
 
 HWND Walker::Button(const wchar_t* caption) const {
-    for (HWND child : ChildrenOf(main_))
-        if (ClassOf(child) == L"Button" && TextOf(child) == caption) return child;
+    for (HWND button : ChildrenOf(main_, L"Button"))
+        if (TextOf(button) == caption) return button;
     return nullptr;
 }
 
-HWND Walker::Next() const {
-    for (const int id : {kNextId, static_cast<int>(IDCANCEL)}) // the permission page has no Next
-        if (HWND button = GetDlgItem(main_, id); IsWindowVisible(button)) return button;
-    return nullptr;
+HWND Walker::Visible(int id) const {
+    HWND control = GetDlgItem(main_, id);
+    return control && IsWindowVisible(control) ? control : nullptr;
 }
 
-HWND Walker::Back() const {
-    HWND button = GetDlgItem(main_, kBackId);
-    return IsWindowVisible(button) ? button : nullptr;
+// The permission page has no Next.
+HWND Walker::Next() const { return Visible(kNextId) ? Visible(kNextId) : Visible(IDCANCEL); }
+HWND Walker::Back() const { return Visible(kBackId); }
+
+std::vector<HWND> Walker::Windows() const {
+    std::vector<HWND> windows;
+    EnumWindows(Collect, reinterpret_cast<LPARAM>(&windows));
+    std::erase_if(windows, [this](HWND window) {
+        DWORD owner = 0;
+        GetWindowThreadProcessId(window, &owner);
+        return owner != wizard_.ProcessId();
+    });
+    return windows;
 }
 
 HWND Walker::Modal() const {
-    std::vector<HWND> windows;
-    if (thread_)
-        EnumThreadWindows(thread_, Collect, reinterpret_cast<LPARAM>(&windows));
-    else
-        EnumWindows(Collect, reinterpret_cast<LPARAM>(&windows));
-    for (HWND window : windows) {
-        DWORD owner = 0;
-        GetWindowThreadProcessId(window, &owner);
-        if (owner != wizard_.ProcessId() || window == main_ || !IsWindowEnabled(window)) continue;
-        const std::wstring kind = ClassOf(window);
-        if (kind != kFormClass && kind != L"tooltips_class32") return window;
-    }
+    if (main_ && IsWindowEnabled(main_)) return nullptr;
+    for (HWND window : Windows())
+        if (window != main_ && IsWindowEnabled(window) && ClassOf(window) != kFormClass) return window;
     return nullptr;
 }
 
-void Walker::FindMain() {
-    if (main_ && IsWindow(main_)) return;
-    std::vector<HWND> windows;
-    EnumWindows(Collect, reinterpret_cast<LPARAM>(&windows));
-    for (HWND window : windows) {
-        DWORD owner = 0;
-        const DWORD thread = GetWindowThreadProcessId(window, &owner);
-        if (owner != wizard_.ProcessId() || ClassOf(window) != kFormClass) continue;
-        main_ = window;
-        thread_ = thread;
-    }
-}
-
-std::wstring Walker::AnswerModal(HWND modal) const {
+std::wstring Walker::AnswerModal(HWND modal, int wanted) const {
     HWND label = GetDlgItem(modal, kBoxTextId);
     std::wstring text = label ? TextOf(label) : L"";
     HWND button = nullptr;
-    for (const int id : {IDYES, IDOK})
+    for (const int id : {wanted, IDYES, IDOK})
         if (HWND found = GetDlgItem(modal, id); found && IsWindowVisible(found) && !button) button = found;
-    for (HWND child : ChildrenOf(modal))
-        if (!button && ClassOf(child) == L"Button") button = child;
+    for (HWND child : ChildrenOf(modal, L"Button"))
+        if (!button) button = child;
     SendNotifyMessageW(button ? button : modal, button ? BM_CLICK : WM_CLOSE, 0, 0);
-    wizard_.Until([modal] { return !IsWindow(modal) || !IsWindowVisible(modal); }, L"an end of: " + text);
+    wizard_.Until([modal] { return IsGone(modal); }, L"an end of: " + text);
     return text;
 }
 
 bool Walker::WaitUntilReady() {
-    const DWORD begin = GetTickCount();
-    while (wizard_.IsRunning()) {
-        FindMain();
+    for (const DWORD begin = GetTickCount(); wizard_.IsRunning(); Sleep(1)) {
+        if (!main_ || !IsWindow(main_)) {
+            main_ = nullptr;
+            for (HWND window : Windows())
+                if (ClassOf(window) == kFormClass) main_ = window;
+        }
         if (Modal()) return true;
         // Cancel is shown when the first page is about to be; a page change is over when it answers.
-        HWND cancel = main_ ? GetDlgItem(main_, IDCANCEL) : nullptr;
-        if (cancel && IsWindowVisible(cancel) && IsWindowEnabled(main_)) {
+        if (main_ && Visible(IDCANCEL) && IsWindowEnabled(main_)) {
             Ask(main_, WM_NULL);
             if (IsWindowEnabled(main_) && !Heading().empty()) return true;
         }
-        if (GetTickCount() - begin > kPatience_ms) throw std::runtime_error("the wizard shows nothing");
-        Sleep(1);
+        if (GetTickCount() - begin > kPatience_ms) Fail(L"the wizard shows nothing");
     }
     return false;
 }
 
 void Walker::TypeName() const {
-    for (HWND child : ChildrenOf(main_))
-        if (ClassOf(child) == L"Edit") Ask(child, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
+    for (HWND box : ChildrenOf(main_, L"Edit"))
+        Ask(box, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
+}
+
+std::wstring Walker::Answer(int wanted) {
+    std::wstring told;
+    while (WaitUntilReady())
+        if (HWND modal = Modal())
+            told += AnswerModal(modal, wanted);
+        else
+            break;
+    return told;
 }
 
 std::wstring Walker::CreateConfiguration() {
     TypeName();
     Press(Next());
-    std::wstring told;
-    while (WaitUntilReady()) {
-        HWND modal = Modal();
-        if (!modal) break;
-        told += AnswerModal(modal);
-    }
-    return told;
+    return Answer();
 }
 
 void Walker::Close() {
     SendNotifyMessageW(main_, WM_CLOSE, 0, 0);
     while (WaitUntilReady())
-        if (HWND modal = Modal()) AnswerModal(modal);
+        Answer();
     wizard_.WaitForExit();
 }
 
@@ -178,9 +169,8 @@ void Walker::LeavePage(Journey& journey) {
         TypeName();
     }
     if (onPage) onPage(heading);
-    if (visits_ > kMostVisits) throw std::runtime_error("cannot leave the page " + Utf8(heading));
     HWND next = Next();
-    if (!next) throw std::runtime_error("no way on from the page " + Utf8(heading));
+    if (visits_ > kMostVisits || !next) Fail(L"no way on from the page " + heading);
     Press(next);
 }
 
@@ -192,8 +182,7 @@ Journey Walker::Walk() {
                 const bool box = ClassOf(modal) == L"#32770" && GetDlgItem(modal, kBoxTextId);
                 const std::wstring text = AnswerModal(modal);
                 if (box) journey.messages.push_back(text);
-                if (box && !IsKnownMessage(text)) journey.trouble = L"an unexpected message: " + text;
-                if (!journey.trouble.empty()) return journey;
+                if (box && !IsKnownMessage(text)) Fail(L"an unexpected message: " + text);
                 continue;
             }
             if (!stopAt.empty() && Heading() == stopAt) return journey;
@@ -201,10 +190,9 @@ Journey Walker::Walk() {
         }
         const int code = wizard_.WaitForExit();
         if (code != 0 && !(code == 1 && !journey.messages.empty()))
-            journey.trouble = L"the exit code " + std::to_wstring(code);
+            Fail(L"the exit code " + std::to_wstring(code));
     } catch (const std::exception& error) {
-        const std::string what = error.what();
-        journey.trouble = std::wstring(what.begin(), what.end());
+        journey.trouble = FromUtf8(error.what());
     }
     return journey;
 }

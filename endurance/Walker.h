@@ -32,6 +32,8 @@ class Walker {
     void TypeName() const; // on the name page
     // Presses Create on the name page; what was told then, "" when the configuration was made.
     std::wstring CreateConfiguration();
+    // Answers windows until there is none; what they told.
+    std::wstring Answer(int wanted = IDYES);
     // Closes the wizard where it stands, "Yes" to the question.
     void Close();
 
@@ -42,8 +44,8 @@ class Walker {
     HWND Main() const { return main_; }
     // The window in front of the wizard's own (a message box, a dialog); null when there is none.
     HWND Modal() const;
-    // Presses the button that goes on; the text of the box ("" for other windows).
-    std::wstring AnswerModal(HWND modal) const;
+    // Presses the wanted button, or the one that goes on; the text of the box ("" for other windows).
+    std::wstring AnswerModal(HWND modal, int wanted = IDYES) const;
     // Waits for the main window and for what stands in front of it to be ready: false when the program ended.
     bool WaitUntilReady();
 
@@ -52,12 +54,12 @@ class Walker {
     HWND Button(const wchar_t* caption) const;
 
   private:
-    void FindMain();
+    std::vector<HWND> Windows() const; // of the wizard
+    HWND Visible(int id) const;
     void LeavePage(Journey& journey);
 
     const WizardDriver& wizard_;
     HWND main_ = nullptr;
-    DWORD thread_ = 0; // of the wizard's windows
     std::wstring lastPage_;
     int visits_ = 0; // of the page shown, one after the other
 };
@@ -66,8 +68,8 @@ class Walker {
 class DemoSuite;
 Journey WalkWhole(const DemoSuite& suite, const wchar_t* arguments);
 
-// Visible controls in their order.
-std::vector<HWND> ChildrenOf(HWND window);
+// Visible controls in their order, all or of one class.
+std::vector<HWND> ChildrenOf(HWND window, const wchar_t* className = nullptr);
 std::wstring ClassOf(HWND window);
 std::wstring TextOf(HWND window);
 // SendMessage to another process; throws when it does not answer for long.
