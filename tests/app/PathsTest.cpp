@@ -20,6 +20,7 @@ TEST(Paths, SplitPath) {
         {L"Mill",                  L"",   L"",                   L"Mill",    L""   },
         {L"a/b:c.d",               L"",   L"",                   L"a/b:c",   L"d"  },
         {L"1:\\a",                 L"",   L"1:\\",               L"a",       L""   },
+        {L"{:\\a",                 L"",   L"{:\\",               L"a",       L""   },
     };
     // clang-format on
     for (const Row& row : rows) {

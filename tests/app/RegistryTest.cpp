@@ -13,18 +13,15 @@ TEST(Registry, TheReadersCutDifferently) {
         std::wstring byLength, atNul;
     } rows[] = {
         {REG_SZ, "D:\\Dnc\0"s, L"D:\\Dnc", L"D:\\Dnc"},
-        {REG_SZ, "D:\\Dnc"s, L"D:\\Dnc", L"D:\\Dnc"},
         {REG_SZ, "ab\0cd\0"s, L"ab\0cd"s, L"ab"},
         {REG_SZ, ""s, L"", L""},
         {REG_SZ, " D\xE4n "s, L" D\u00e4n ", L" D\u00e4n "},
         {REG_EXPAND_SZ, "%TEMP%\0"s, L"%TEMP%", L"%TEMP%"},
         {REG_MULTI_SZ, "a\0b\0\0"s, L"a\0b\0"s, L"a"},
-        {REG_BINARY, "ab"s, L"ab", L"ab"},
         {REG_NONE, "ab\0"s, L"ab", L"ab"},
         {REG_DWORD, "AB\0\0"s, L"AB\0"s, L"AB"},
         {REG_SZ, std::string(1023, 'x') + '\0', std::wstring(1023, L'x'), std::wstring(1023, L'x')},
         {REG_SZ, std::string(1024, 'x') + '\0', L"default", L"default"},
-        {REG_BINARY, std::string(1024, 'x'), std::wstring(1024, L'x'), std::wstring(1024, L'x')},
         {REG_BINARY, std::string(1025, 'x'), L"default", L"default"},
     };
     const ScratchKey key;

@@ -1,9 +1,13 @@
 // The real program as a person uses it, its windows, its files, what it starts. Each walk of walks.txt is
 // one test; the verbs that its lines may begin with are the table below.
 
+#include "app/StartUp.h"
+#include "ftw/FtwPages.h"
+#include "ndw/NdwPages.h"
 #include "tests/ndw/DcpByHand.h"
 #include "tests/support/DemoSuite.h"
 #include "tests/support/WizardDriver.h"
+#include "wizard/frmWizard.h"
 
 #include <gtest/gtest.h>
 
@@ -142,26 +146,13 @@ void Click(HWND control, int from = 9, UINT down = WM_LBUTTONDOWN) {
 
 // What has the focus: its text, or its class when it holds more than a caption.
 void ExpectFocus(const Walk& walk, const Text& wanted) {
-    const HWND list = walk.On().Focus();
     walk.On().Until(
         [&] {
             wchar_t name[32] = L"";
             GetClassNameW(walk.On().Focus(), name, 32);
             return name == wanted || TextOf(walk.On().Focus()) == wanted;
         },
-        L"the focus on " + wanted + (list ? L" instead of " + TextOf(list) : L""));
-}
-
-// A configuration that differs from the one with the answers the wizard starts with: "178 00 01, 240 25".
-std::string Configuration(const Text& places) {
-    DcpByHand file;
-    std::istringstream each(Utf8(places));
-    for (std::string place; std::getline(each, place, ',');) {
-        std::size_t digits = 0;
-        const std::size_t offset = std::stoul(place, &digits);
-        file.With(offset, DcpByHand::Hex(place.substr(digits)));
-    }
-    return file.Bytes();
+        L"the focus on " + wanted);
 }
 
 void ExpectStart(Walk& walk, const Text& program, const Text& commandLine) {
@@ -204,6 +195,46 @@ void StartAgain(Walk& walk, const Text& arguments) {
     walk.On().Until([&] { return !IsIconic(first) && GetForegroundWindow() == first; }, L"the first copy");
 }
 
+void ExpectRefusal(const Walk& walk, const Text& name, const Text& words) {
+    const HWND box = walk.On().Input(L"Edit", L"Configuration &name");
+    const Text before = Names(walk.suite.Settings() + L"*");
+    Ask(box, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
+    walk.On().Press(L"&Create");
+    const Text text = walk.On().AnswerBox(IDOK);
+    Expect(text.substr(0, 25 + words.size()), L"Varnel DNC Setup Wizard\r\n" + words);
+    walk.On().WaitForPage(L"Configuration Name");
+    EXPECT_EQ(walk.On().Focus(), box);
+    Expect(TextOf(box), name);
+    Expect(Names(walk.suite.Settings() + L"*"), before);
+}
+
+// Calls `act` with a form of this process, the suite's folder as the program's and the current one, as when
+// the wizard runs.
+void InProcess(const Walk& walk, const PageBook& book, void (*act)(frmWizard&, const Text&),
+               const Text& text) {
+    const Text program = std::exchange(locations.AppPath, walk.suite.Folder());
+    wchar_t before[MAX_PATH] = L"";
+    GetCurrentDirectoryW(MAX_PATH, before);
+    SetCurrentDirectoryW(walk.suite.Folder().c_str());
+    frmWizard form(book, true);
+    form.ConfigName = L"Mill 3 \x00E4";
+    act(form, text);
+    SetCurrentDirectoryW(before);
+    locations.AppPath = program;
+}
+
+// "1 17 0": of that wizard, on that page, the link of that index.
+void FollowLink(frmWizard& form, const Text& link) {
+    form.PageNo = static_cast<std::int16_t>(std::stoi(link.substr(2)));
+    form.lblHyperlink_Click(static_cast<std::int16_t>(link.back() - L'0'));
+}
+
+void HandOver(frmWizard& form, const Text& flags) {
+    startUp.ConfigLaunch = flags.back() & 1;
+    form.ConfigWritten = flags.back() & 2;
+    NdwBook().exiting(form);
+}
+
 struct Verb {
     const wchar_t* word;
     void (*act)(Walk& walk, const Text& a, const Text& b);
@@ -216,7 +247,8 @@ const Verb kVerbs[] = {
     {L"icons",     [](Walk& w, const Text&, const Text&) { w.suite.AddIcons(); }},
     {L"samples",   [](Walk& w, const Text&, const Text&) { w.suite.AddSamples(); }},
     {L"write",     [](Walk&, const Text& a, const Text& b) { WriteFileBytes(a, Utf8(b)); }},
-    {L"make",      [](Walk& w, const Text& a, const Text& b) { WriteFileBytes(w.suite.Settings() + a + L".DCP", Configuration(b)); }},
+    {L"copy",      [](Walk&, const Text& a, const Text& b) { EXPECT_TRUE(CopyFileW(a.c_str(), b.c_str(), FALSE)); }},
+    {L"make",      [](Walk& w, const Text& a, const Text& b) { WriteFileBytes(w.suite.Settings() + a + L".DCP", DcpByHand(Utf8(b)).Bytes()); }},
     {L"spoil",     [](Walk& w, const Text& a, const Text& b) { w.lock = Spoil(a, kSpoilt.at(b)); }},
     {L"do",        [](Walk& w, const Text& a, const Text&) { w.Follow(a); }},
     // what the person does
@@ -249,6 +281,7 @@ const Verb kVerbs[] = {
     {L"open",      [](Walk&, const Text& a, const Text&) { Open(a); }},
     {L"close",     [](Walk& w, const Text&, const Text&) { PostMessageW(w.On().Window(), WM_CLOSE, 0, 0); }},
     {L"exit",      [](Walk& w, const Text& a, const Text&) { Expect(std::to_wstring(w.On().WaitForExit()), a.empty() ? L"0" : a); }},
+    {L"refused",   [](Walk& w, const Text& a, const Text& b) { ExpectRefusal(w, a, b); }},
     // what the page shows
     {L"page",      [](Walk& w, const Text& a, const Text&) { w.On().WaitForPage(a); }},
     {L"says",      [](Walk& w, const Text& a, const Text&) { EXPECT_NE(w.On().PageText().find(a), Text::npos) << Utf8(w.On().PageText()); }},
@@ -270,8 +303,10 @@ const Verb kVerbs[] = {
     {L"same",      [](Walk&, const Text& a, const Text& b) { EXPECT_EQ(FileBytes(a), FileBytes(b)); }},
     {L"holds",     [](Walk&, const Text& a, const Text& b) { EXPECT_NE(FileBytes(a).find(Utf8(b)), std::string::npos) << Utf8(b); }},
     {L"ini",       [](Walk& w, const Text& a, const Text& b) { Expect(w.suite.Setting(a.c_str()), b); }},
-    {L"dcp",       [](Walk& w, const Text& a, const Text& b) { ExpectBytes(FileBytes(w.suite.Settings() + a + L".DCP"), Configuration(b)); }},
+    {L"dcp",       [](Walk& w, const Text& a, const Text& b) { ExpectBytes(FileBytes(w.suite.Settings() + a + L".DCP"), DcpByHand(Utf8(b)).Bytes()); }},
     {L"started",   [](Walk& w, const Text& a, const Text& b) { ExpectStart(w, a, b); }},
+    {L"follow",    [](Walk& w, const Text& a, const Text&) { InProcess(w, a.front() == L'0' ? FtwBook() : NdwBook(), FollowLink, a); }},
+    {L"hand",      [](Walk& w, const Text& a, const Text&) { InProcess(w, NdwBook(), HandOver, a); }},
     {L"starts",    [](Walk& w, const Text& a, const Text&) { Expect(std::to_wstring(w.suite.StartCount()), a); }},
 };
 // clang-format on
@@ -297,6 +332,8 @@ Text Walk::Replaced(Text text) const {
                  list += L"D:\\Cnc " + std::to_wstring(i) + L";";
              return list + L"E:";
          }()},
+        {L"{250 m}", Text(250, L'm')},
+        {L"{tab}", L"\t"},
         {L"{n}", L"\r\n"}};
     for (const auto& [word, meaning] : kWords)
         for (auto at = text.find(word); at != Text::npos; at = text.find(word, at + meaning.size()))
@@ -337,10 +374,11 @@ void Walk::Follow(const Text& section) {
         const auto verb = std::find_if(std::begin(kVerbs), std::end(kVerbs),
                                        [&](const Verb& each) { return each.word == word; });
         ASSERT_NE(verb, std::end(kVerbs)) << "no such verb";
-        const Text rest = line.text.substr(std::min(word.size() + 1, line.text.size()));
+        const Text rest = line.text.substr(word.size());
         const std::size_t middle = std::min(rest.find(L" ="), rest.size());
+        const Text a = middle ? rest.substr(1, middle - 1) : L"";
         const Text b = rest.substr(std::min(middle + 3, rest.size()));
-        verb->act(*this, Replaced(rest.substr(0, middle)), Replaced(b));
+        verb->act(*this, Replaced(a), Replaced(b));
         if (testing::Test::HasFatalFailure()) return;
     }
 }
@@ -354,7 +392,11 @@ std::vector<Text> WalkNames() {
 
 class EveryWalk : public testing::TestWithParam<Text> {};
 
-TEST_P(EveryWalk, Ends) { Walk().Follow(GetParam()); }
+TEST_P(EveryWalk, Ends) {
+    Walk walk;
+    walk.Follow(GetParam());
+    if (walk.wizard && walk.wizard->IsRunning()) walk.wizard->Close();
+}
 
 INSTANTIATE_TEST_SUITE_P(Walks, EveryWalk, testing::ValuesIn(WalkNames()), [](const auto& walk) {
     std::string name = Utf8(walk.param);

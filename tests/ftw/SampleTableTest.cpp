@@ -23,12 +23,7 @@ TEST(SampleTable, EveryRowMakesAWholeConfigurationUnderItsOwnName) {
         EXPECT_TRUE(CodesFit(SuffixCodes(answers)));
     }
     EXPECT_GE(names.size(), 12U);
-}
-
-TEST(SampleTable, NamesSayKindCodeRateAndFlow) {
     EXPECT_EQ(NameOf(kSamples[0]), L"Lathe ISO 4800 XON-XOFF");
-    const Sample noFlow{L"Punch", L"TAPE", kAscii, k7O, 300, kNoFlow, kCr, 0, 0, kAtOnce, kONumber, kManual};
-    EXPECT_EQ(NameOf(noFlow), L"Punch ASCII 7O 300");
 }
 
 } // namespace

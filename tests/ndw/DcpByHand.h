@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <sstream>
 #include <string>
 #include <string_view>
 
@@ -39,22 +40,37 @@ class DcpByHand {
         bytes_ += "O7999 (DNC MESSAGES)" + Blanks(234) + Zeros(2) + "(" + Blanks(9) + ")" + Blanks(9);
     }
 
+    // The same with other bytes at these places: "178 00 01, 240 25 'text'".
+    explicit DcpByHand(const std::string& places) : DcpByHand() {
+        std::istringstream each(places);
+        for (std::string place; std::getline(each, place, ',');) {
+            std::size_t digits = 0;
+            const std::size_t offset = std::stoul(place, &digits);
+            With(offset, Hex(std::string_view(place).substr(digits)));
+        }
+    }
+
     // Other bytes at `offset`; the file keeps its length.
     DcpByHand& With(std::size_t offset, std::string_view bytes) {
         bytes_.replace(offset, bytes.size(), bytes);
         return *this;
     }
 
-    const std::string& Bytes() const { return bytes_; }
+    std::string Bytes() const { return bytes_; }
 
     static std::string Blanks(std::size_t count) { return std::string(count, ' '); }
     static std::string Zeros(std::size_t count) { return std::string(count, '\0'); }
 
-    // Pairs of hexadecimal digits in capitals, blanks between them as one likes.
+    // Pairs of hexadecimal digits in capitals and 'text', blanks between them as one likes.
     static std::string Hex(std::string_view digits) {
         std::string bytes;
         for (std::size_t i = 0; i + 1 < digits.size(); ++i) {
             if (digits[i] == ' ') continue;
+            if (digits[i] == '\'') {
+                for (++i; digits[i] != '\''; ++i)
+                    bytes += digits[i];
+                continue;
+            }
             bytes += static_cast<char>(Value(digits[i]) * 16 + Value(digits[i + 1]));
             ++i;
         }

@@ -35,16 +35,20 @@ TEST(NdwAnswers, Codes) {
     EXPECT_TRUE(CodesFit(L"0123456789"));
 }
 
-// What answers out of range look like; pages.txt shows the others.
 TEST(NdwAnswers, Summary) {
     NdwAnswers answers;
+    EXPECT_EQ(SummaryText(answers), L"COM1, 4800 baud, ISO\r\n"
+                                    L"Flow control: Software (XON/XOFF); end of block: CR + LF\r\n"
+                                    L"Prefix: none; suffix: none\r\n"
+                                    L"File name: O number: O and 4 digits (O1234)");
     answers.characterFormatIndex = 5;
     answers.dataFormatIndex = 2;
     answers.flowControlIndex = -1;
+    answers.prefixChoice = 15;
     answers.receiveNamingIndex = 12;
     EXPECT_EQ(SummaryText(answers), L"COM1, 4800 baud, ASCII (8 data bits, odd parity)\r\n"
                                     L"Flow control: ?; end of block: CR + LF\r\n"
-                                    L"Prefix: none; suffix: none\r\n"
+                                    L"Prefix: ^M^J%^M^J^; suffix: none\r\n"
                                     L"File name: ?");
 }
 

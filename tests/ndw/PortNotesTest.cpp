@@ -9,7 +9,7 @@
 
 namespace {
 
-std::string ForPort(const char* hex) { return DcpByHand().With(178, DcpByHand::Hex(hex)).Bytes(); }
+std::string ForPort(const char* hex) { return DcpByHand("178 " + std::string(hex)).Bytes(); }
 
 } // namespace
 

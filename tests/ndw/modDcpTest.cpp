@@ -42,78 +42,63 @@ TEST(modDcp, DefaultsWithoutAnswers) {
     EXPECT_EQ(AsText(records), std::string(5449, '\0'));
     SetDcpHeaderDefaults(records.header);
     SetDcpRecord4Defaults(records.record4);
-    DcpByHand expected;
-    expected.With(184, "\x07")
-        .With(196, "\x07")
-        .With(210, DcpByHand::Zeros(2))
-        .With(240, "^J")
-        .With(250, "%");
-    expected.With(497, "\x01").With(1079, DcpByHand::Zeros(2)).With(1103, "  ");
-    expected.With(1165, DcpByHand::Zeros(10));
+    const DcpByHand expected("184 07, 196 07, 210 00 00, 240 '^J', 250 '%', 497 01, 1079 00 00, 1103 '  ', "
+                             "1165 00 00 00 00 00 00 00 00 00 00");
     ExpectBytes(AsText(records), expected.Bytes());
 }
 
 TEST(modDcp, EachAnswerHasItsPlace) {
-    struct Place {
-        std::size_t offset;
-        std::string bytes;
-    };
     struct Row {
         std::int16_t NdwAnswers::*answer;
         std::int16_t value;
-        std::vector<Place> places;
+        const char* places;
     };
-    const auto hex = DcpByHand::Hex;
     using A = NdwAnswers;
     // clang-format off
     const Row rows[] = {
-        {&A::portIndex,             255, {{178, hex("00 01")}}},
-        {&A::baudIndex,              11, {{184, hex("0B 00")}, {196, hex("0B 00")}}},
-        {&A::dataFormatIndex,         2, {{194, hex("02 00")}, {206, hex("02 00")}}},
-        {&A::characterFormatIndex,    0, {{186, hex("00 00  00 00")}, {198, hex("00 00  00 00")}}},
-        {&A::characterFormatIndex,    1, {{186, hex("00 00  01 00")}, {198, hex("00 00  01 00")}}},
-        {&A::characterFormatIndex,    5, {{186, hex("02 00  01 00")}, {198, hex("02 00  01 00")}}},
-        {&A::flowControlIndex,        2, {{192, hex("02 00")}, {204, hex("02 00")}}},
-        {&A::endOfBlockIndex,         1, {{208, hex("FF FF  00 00")}}},
-        {&A::endOfBlockIndex,         2, {{208, hex("00 00  FF FF")}}},
-        {&A::prefixChoice,           15, {{240, "^M^J%^M^J^"}}},
-        {&A::prefixChoice,           10, {{240, "%^R       "}}},
-        {&A::suffixChoice,           31, {{250, "^M^J%^D^T^"}}},
-        {&A::suffixChoice,           20, {{250, "^D^Z      "}}},
-        {&A::filterOptions,           1, {{501, hex("01 00")}}},
-        {&A::filterOptions,           2, {{497, hex("03 00")}}},
-        {&A::filterOptions,           4, {{496, "1"}}},
-        {&A::filterOptions,           8, {{499, hex("FF FF")}}},
-        {&A::filterOptions,          15, {{496, "1" + hex("03 00  FF FF  01 00")}}},
-        {&A::transmitTriggerIndex,    0, {{513, hex("FF FF")}}},
-        {&A::transmitTriggerIndex,    1, {{513, hex("FD FF")}}},
-        {&A::transmitTriggerIndex,    3, {{513, hex("FE FF")}}},
-        {&A::transmitTriggerIndex,    4, {{513, hex("11 00")}}},
-        {&A::receiveNamingIndex,      1, {{1081, "O         " + hex("01 00") + "(         ) "}}},
-        {&A::receiveNamingIndex,      2, {{1081, "O         " + hex("01 00") + "1           "}}},
-        {&A::receiveNamingIndex,      3, {{1081, ":         " + hex("01 00") + "2         4 "}}},
-        {&A::receiveNamingIndex,      4, {{1081, ":         " + hex("01 00") + "2         4 "}}},
-        {&A::receiveNamingIndex,      5, {{1081, ":         " + hex("01 00") + "2           "}}},
-        {&A::receiveNamingIndex,      6, {{1081, "$         " + hex("01 00") + "2         . "}}},
-        {&A::receiveNamingIndex,      7, {{1081, "$         " + hex("01 00") + "2         . "}, {1122, "MIN"}}},
-        {&A::receiveNamingIndex,      8, {{1081, "%MPF      " + hex("01 00") + "25        4 "}}},
-        {&A::receiveNamingIndex,      9, {{1081, "%         " + hex("02 00") + "(         ) "}}},
-        {&A::receiveNamingIndex,     10, {{1081, "%         " + hex("02 00") + "1           "}}},
-        {&A::receiveNamingIndex,     11, {{1079, hex("00 00")}, {1103, "  "}}},
-        {&A::receiveNamingIndex,     12, {{1103, "  "}}},
-        {&A::receiveTerminationIndex, 1, {{799, "2         " + hex("03 00")}}},
-        {&A::receiveTerminationIndex, 2, {{799, "30        " + hex("03 00")}}},
+        {&A::portIndex,             255, "178 00 01"},
+        {&A::baudIndex,              11, "184 0B 00, 196 0B 00"},
+        {&A::dataFormatIndex,         2, "194 02 00, 206 02 00"},
+        {&A::characterFormatIndex,    0, "186 00 00 00 00, 198 00 00 00 00"},
+        {&A::characterFormatIndex,    1, "186 00 00 01 00, 198 00 00 01 00"},
+        {&A::characterFormatIndex,    5, "186 02 00 01 00, 198 02 00 01 00"},
+        {&A::flowControlIndex,        2, "192 02 00, 204 02 00"},
+        {&A::endOfBlockIndex,         1, "208 FF FF 00 00"},
+        {&A::endOfBlockIndex,         2, "208 00 00 FF FF"},
+        {&A::prefixChoice,           15, "240 '^M^J%^M^J^'"},
+        {&A::prefixChoice,           10, "240 '%^R       '"},
+        {&A::suffixChoice,           31, "250 '^M^J%^D^T^'"},
+        {&A::suffixChoice,           20, "250 '^D^Z      '"},
+        {&A::filterOptions,           1, "501 01 00"},
+        {&A::filterOptions,           2, "497 03 00"},
+        {&A::filterOptions,           4, "496 '1'"},
+        {&A::filterOptions,           8, "499 FF FF"},
+        {&A::filterOptions,          15, "496 '1' 03 00 FF FF 01 00"},
+        {&A::transmitTriggerIndex,    0, "513 FF FF"},
+        {&A::transmitTriggerIndex,    1, "513 FD FF"},
+        {&A::transmitTriggerIndex,    3, "513 FE FF"},
+        {&A::transmitTriggerIndex,    4, "513 11 00"},
+        {&A::receiveNamingIndex,      1, "1081 'O         ' 01 00 '(         ) '"},
+        {&A::receiveNamingIndex,      2, "1081 'O         ' 01 00 '1           '"},
+        {&A::receiveNamingIndex,      3, "1081 ':         ' 01 00 '2         4 '"},
+        {&A::receiveNamingIndex,      4, "1081 ':         ' 01 00 '2         4 '"},
+        {&A::receiveNamingIndex,      5, "1081 ':         ' 01 00 '2           '"},
+        {&A::receiveNamingIndex,      6, "1081 '$         ' 01 00 '2         . '"},
+        {&A::receiveNamingIndex,      7, "1081 '$         ' 01 00 '2         . ', 1122 'MIN'"},
+        {&A::receiveNamingIndex,      8, "1081 '%MPF      ' 01 00 '25        4 '"},
+        {&A::receiveNamingIndex,      9, "1081 '%         ' 02 00 '(         ) '"},
+        {&A::receiveNamingIndex,     10, "1081 '%         ' 02 00 '1           '"},
+        {&A::receiveNamingIndex,     11, "1079 00 00, 1103 '  '"},
+        {&A::receiveNamingIndex,     12, "1103 '  '"},
+        {&A::receiveTerminationIndex, 1, "799 '2         ' 03 00"},
+        {&A::receiveTerminationIndex, 2, "799 '30        ' 03 00"},
     };
     // clang-format on
     for (const Row& row : rows) {
-        SCOPED_TRACE("places from " + std::to_string(row.places.front().offset) + ", value " +
-                     std::to_string(row.value));
+        SCOPED_TRACE(row.places);
         NdwAnswers answers;
         answers.*row.answer = row.value;
-        DcpByHand expected;
-        for (const Place& place : row.places)
-            expected.With(place.offset, place.bytes);
-        ExpectBytes(Created(answers, L""), expected.Bytes());
+        ExpectBytes(Created(answers, L""), DcpByHand(row.places).Bytes());
     }
 }
 
@@ -123,28 +108,24 @@ TEST(modDcp, Texts) {
     answers.receivePrefix = L"LATHE2-LEFT";
     answers.receiveExtension = L"NC";
     answers.receiveNamingIndex = 4;
-    DcpByHand expected;
-    expected.With(114, std::string(64, 'X'))
-        .With(486, "(N\xe4"
-                   "ch     ")
-        .With(1165, "(N\xe4"
-                    "ch     ");
-    expected.With(1081, ":").With(1093, "2         4 ").With(1105, "LATHE2-LEF");
+    DcpByHand expected(
+        "486 '(N' E4 'ch     ', 1081 ':', 1093 '2         4 ', 1105 'LATHE2-LEF', 1165 '(N' E4 'ch     '");
+    expected.With(114, std::string(64, 'X'));
     ExpectBytes(Created(answers, std::wstring(70, L'X')), expected.Bytes());
 }
 
 TEST(modDcp, TheFileIsReadOnlyWhenItIsOne) {
-    const std::string file = DcpByHand().With(178, "\x2C\x01").Bytes();
+    const std::string file = DcpByHand("178 2C 01").Bytes();
     DcpRecords records;
     ASSERT_TRUE(ReadDcpBytes(AsBytes(file), records));
     ExpectBytes(AsText(records), file);
     EXPECT_EQ(records.header.removedLines, L"          ");
     EXPECT_EQ(DcpPortNumber(AsBytes(file)), 300);
 
-    const std::string unprepared = DcpByHand().With(49, "x").With(486, "(").Bytes();
+    const std::string unprepared = DcpByHand("49 'x', 486 '('").Bytes();
     ASSERT_TRUE(ReadDcpBytes(AsBytes(unprepared), records));
     PrepareForWriting(records);
-    ExpectBytes(AsText(records), DcpByHand().With(486, "(").With(1165, "(").Bytes());
+    ExpectBytes(AsText(records), DcpByHand("486 '(', 1165 '('").Bytes());
     ASSERT_TRUE(ReadDcpBytes(AsBytes(file), records));
 
     std::string otherSignature = file;

@@ -1,5 +1,6 @@
 #include "shell/IconList.h"
 
+#include "tests/support/Canvas.h"
 #include "tests/support/Scratch.h"
 
 #include <gtest/gtest.h>
@@ -18,15 +19,9 @@ std::string IconFile(const std::string& colour = "\x20\x40\x60") {
 
 // What the list draws in the middle of a picture.
 COLORREF ColourOf(const IconList& icons, std::int16_t position) {
-    const HDC screen = GetDC(nullptr);
-    const win::Unique<HDC, DeleteDC> dc(CreateCompatibleDC(screen));
-    const win::UniqueBitmap bitmap(CreateCompatibleBitmap(screen, 48, 48));
-    ReleaseDC(nullptr, screen);
-    const HGDIOBJ before = SelectObject(dc.Get(), bitmap.Get());
-    icons.Draw(position, dc.Get(), 0, 0);
-    const COLORREF colour = GetPixel(dc.Get(), 24, 24);
-    SelectObject(dc.Get(), before);
-    return colour;
+    const Canvas canvas(0);
+    icons.Draw(position, canvas.Dc(), 0, 0);
+    return canvas.At(24, 24);
 }
 
 TEST(IconList, KeepsPicturesAndNamesInStep) {

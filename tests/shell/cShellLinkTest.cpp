@@ -80,20 +80,4 @@ TEST(cShellLink, FindsTheShellsFolders) {
     EXPECT_FALSE(cShellLink().GetSystemFolderPath(nullptr, 3)); // the control panel has no path
 }
 
-TEST(modShellLink, KnowsWhetherTheRemoteServerIsInstalled) {
-    const ScratchSuite suite;
-    const std::pair<const char*, bool> rows[] = {
-        {"", false},
-        {"[Install]\r\nOptions=1\r\n", true},
-        {"[Install]\r\nOptions=2\r\n[Options]\r\nInstall=1\r\n", false}, // the first decides
-        {"[Install]\r\nOptions=\r\n[Options]\r\nInstall=3\r\n", true},
-        {"[Options]\r\nInstall=6\r\n", false},
-        {"[Install]\r\nOptions=x1\r\n", false},
-    };
-    for (const auto& [ini, installed] : rows) {
-        suite.Ini(ini);
-        EXPECT_EQ(RemoteServerInstalled(), installed) << ini;
-    }
-}
-
 } // namespace

@@ -189,6 +189,16 @@ void WizardDriver::GoTo(const std::wstring& title) {
     window_ = found;
 }
 
+void WizardDriver::Close() const {
+    PostMessageW(window_, WM_CLOSE, 0, 0);
+    const auto isOver = [this] {
+        if (const HWND box = FindWindowOf(L"#32770", L"", IDYES))
+            PostMessageW(GetDlgItem(box, IDYES), BM_CLICK, 0, 0);
+        return !IsRunning();
+    };
+    Until(isOver, L"the end of the wizard");
+}
+
 int WizardDriver::WaitForExit() const {
     Until([this] { return !IsRunning(); }, L"the end of the wizard");
     DWORD code = 0;

@@ -46,6 +46,7 @@ class WizardDriver {
     // line end, text.
     std::wstring AnswerBox(int button) const;
 
+    void Close() const; // as the close box does; answers the question with Yes and waits for the end
     int WaitForExit() const;
     bool IsRunning() const { return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT; }
 

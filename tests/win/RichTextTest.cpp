@@ -37,21 +37,6 @@ TEST(RichText, RendersLikeTheModel) {
         }
 }
 
-TEST(RichText, HeightGrowsWithTheLines) {
-    FormUnderTest test(1);
-    win::RichText& control = test.form.txtInfo;
-    const auto height = [&](const std::wstring& text) {
-        control.SetText(text);
-        control.ScrollToTop();
-        return control.TextHeight().value;
-    };
-    const int one = height(L"one");
-    const int line = height(L"one\r\ntwo") - one;
-    EXPECT_GT(line, one / 2);
-    EXPECT_NEAR(height(L"1\r\n2\r\n3\r\n4\r\n5\r\n"), one + 5 * line, 30);
-    EXPECT_GE(height(std::wstring(400, L'w')), one + 2 * line);
-}
-
 TEST(RichText, ScrolledToTheTopNothingIsSelected) {
     FormUnderTest test(1);
     test.form.WriteInfo(L"<b>a</b>\r\n<u>b</u>\r\nc");

@@ -26,10 +26,11 @@ RECT PlaceOf(HWND control) {
 }
 
 std::string Name(HWND control) {
+    std::wstring name = ClassOf(control) + L" \"" + win::WindowText(control).substr(0, 40) + L"\" at";
     const RECT place = PlaceOf(control);
-    return Utf8(ClassOf(control) + L" \"" + win::WindowText(control).substr(0, 40) + L"\" at ") +
-           std::to_string(place.left) + "," + std::to_string(place.top) + " to " +
-           std::to_string(place.right) + "," + std::to_string(place.bottom);
+    for (const LONG edge : {place.left, place.top, place.right, place.bottom})
+        name += L" " + std::to_wstring(edge);
+    return Utf8(name);
 }
 
 // Of `text` in the control's font, lines broken at `width`; "&" marks access keys where `marks` says so.
@@ -47,12 +48,10 @@ SIZE Extent(HWND control, const std::wstring& text, bool marks, int width = 1000
 
 int WidestItem(HWND control, UINT count, UINT length, UINT get) {
     int widest = 0;
-    for (LRESULT i = 0; i < SendMessageW(control, count, 0, 0); ++i) {
-        const auto index = static_cast<WPARAM>(i);
-        std::wstring item(static_cast<std::size_t>(SendMessageW(control, length, index, 0)) + 1, L'\0');
-        item.resize(static_cast<std::size_t>(
-            SendMessageW(control, get, index, reinterpret_cast<LPARAM>(item.data()))));
-        widest = std::max(widest, static_cast<int>(Extent(control, item, false).cx));
+    for (WPARAM i = 0; i < static_cast<WPARAM>(SendMessageW(control, count, 0, 0)); ++i) {
+        std::wstring item(static_cast<std::size_t>(SendMessageW(control, length, i, 0)) + 1, L'\0');
+        SendMessageW(control, get, i, reinterpret_cast<LPARAM>(item.data()));
+        widest = std::max(widest, static_cast<int>(Extent(control, item.c_str(), false).cx));
     }
     return widest;
 }
@@ -68,13 +67,6 @@ SIZE ButtonNeeds(HWND control) {
     return size;
 }
 
-SIZE RichTextNeeds(HWND control) {
-    const int last = GetWindowTextLengthW(control);
-    POINTL place{};
-    SendMessageW(control, EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&place), last);
-    return {0, place.y + Extent(control, L"Xg", false).cy};
-}
-
 SIZE TextNeeds(HWND control, const RECT& client) {
     const std::wstring kind = ClassOf(control);
     const int edge = 2 * GetSystemMetrics(SM_CXEDGE);
@@ -84,7 +76,12 @@ SIZE TextNeeds(HWND control, const RECT& client) {
     if (kind == L"ComboBox")
         return {WidestItem(control, CB_GETCOUNT, CB_GETLBTEXTLEN, CB_GETLBTEXT) + bar + edge, 0};
     if (kind == L"Edit") return {0, Extent(control, L"Xg", false).cy};
-    if (kind == win::RichText::kClassName) return RichTextNeeds(control);
+    if (kind == win::RichText::kClassName) {
+        POINTL place{}; // of the end
+        SendMessageW(control, EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&place),
+                     GetWindowTextLengthW(control));
+        return {0, place.y + Extent(control, L"Xg", false).cy};
+    }
     if ((GetWindowLongW(control, GWL_STYLE) & SS_TYPEMASK) == SS_OWNERDRAW) return {};
     return Extent(control, win::WindowText(control), true, client.right);
 }
@@ -107,23 +104,18 @@ void ExpectHeadingFits(win::Label& header) {
     EXPECT_LE(win::Px(layout::kHeadingTop) + size.cy, place.bottom) << Utf8(header.Text());
 }
 
-void ExpectInPlace(HWND control, const RECT& client) {
-    const RECT place = PlaceOf(control);
-    const bool inRow = place.top >= win::Px(layout::kRowTop);
-    EXPECT_TRUE(place.left >= 0 && place.top >= 0 && place.right <= client.right &&
-                place.bottom <= (inRow ? client.bottom : win::Px(layout::kRowTop)))
-        << Name(control);
-}
-
 void ExpectPage(FormUnderTest& test, bool scrolls = false) {
     const std::vector<HWND> controls = test.VisibleControls();
     RECT client{};
     GetClientRect(test.form.Hwnd(), &client);
     ExpectHeadingFits(test.form.picHeader);
     for (auto control = controls.begin(); control != controls.end(); ++control) {
-        ExpectInPlace(*control, client);
-        if (!scrolls || ClassOf(*control) != win::RichText::kClassName) ExpectTextFits(*control);
         const RECT place = PlaceOf(*control);
+        const LONG lowest = place.top >= win::Px(layout::kRowTop) ? client.bottom : win::Px(layout::kRowTop);
+        EXPECT_TRUE(place.left >= 0 && place.top >= 0 && place.right <= client.right &&
+                    place.bottom <= lowest)
+            << Name(*control);
+        if (!scrolls || ClassOf(*control) != win::RichText::kClassName) ExpectTextFits(*control);
         for (auto other = controls.begin(); other != control; ++other) {
             const RECT second = PlaceOf(*other);
             RECT common{};

@@ -15,7 +15,9 @@ class MemoryRichText {
   public:
     std::wstring Text() const { return text_; }
     void SetText(std::wstring_view text) {
-        const Look first = looks_.empty() ? Look{} : CharacterPart(looks_.front());
+        Look first = looks_.empty() ? Look{} : looks_.front();
+        first.bullet = false;
+        first.indent = first.rightIndent = 0;
         text_ = WithOneCharLineEnds(text);
         looks_.assign(text_.size(), first);
         Select(0, 0);
@@ -45,8 +47,7 @@ class MemoryRichText {
     // The text with a note in braces wherever the look changes: "r"ed, "b"old, "i"talic, a font size
     // other than 8, "*" for a bullet, both indents. A line end is "/".
     std::wstring Described() const {
-        std::wstring result;
-        std::wstring note;
+        std::wstring result, note;
         for (std::size_t i = 0; i < text_.size(); ++i) {
             const std::wstring next = Note(looks_[i]);
             if (next != note) result += L"{" + next + L"}";
@@ -58,27 +59,17 @@ class MemoryRichText {
 
   private:
     struct Look {
-        bool bold = false;
-        bool italic = false;
+        bool bold = false, italic = false, bullet = false;
         std::uint32_t color = 0;
-        std::int16_t fontSize = 8;
-        bool bullet = false;
-        std::int16_t indent = 0;
-        std::int16_t rightIndent = 0;
+        std::int16_t fontSize = 8, indent = 0, rightIndent = 0;
     };
 
     static std::wstring WithOneCharLineEnds(std::wstring_view text) {
         std::wstring result;
-        for (std::size_t i = 0; i < text.size(); ++i) {
+        for (std::size_t i = 0; i < text.size(); ++i)
             if (text[i] != L'\n' || i == 0 || text[i - 1] != L'\r')
                 result += text[i] == L'\n' ? L'\r' : text[i];
-        }
         return result;
-    }
-    static Look CharacterPart(Look look) {
-        look.bullet = false;
-        look.indent = look.rightIndent = 0;
-        return look;
     }
     static std::wstring Note(const Look& look) {
         std::wstring note;
@@ -87,16 +78,15 @@ class MemoryRichText {
         if (look.italic) note += L"i";
         if (look.fontSize != 8) note += std::to_wstring(look.fontSize);
         if (look.bullet) note += L"*";
-        if (look.indent != 0) note += L" " + std::to_wstring(look.indent);
-        if (look.rightIndent != 0) note += L" " + std::to_wstring(look.rightIndent);
+        for (const std::int16_t indent : {look.indent, look.rightIndent})
+            if (indent != 0) note += L" " + std::to_wstring(indent);
         return note;
     }
 
     void Select(std::int32_t start, std::int32_t length) {
         const auto size = static_cast<std::int64_t>(text_.size());
-        if (start < 0 || length < 0 || std::int64_t{start} + length > size) {
+        if (start < 0 || length < 0 || std::int64_t{start} + length > size)
             throw std::out_of_range("The selection lies beyond the text.");
-        }
         if (length != 0 || static_cast<std::size_t>(start) != start_) insertion_.reset();
         start_ = static_cast<std::size_t>(start);
         length_ = static_cast<std::size_t>(length);
@@ -118,14 +108,12 @@ class MemoryRichText {
         const std::size_t before = start_ == 0 ? text_.npos : text_.rfind(L'\r', start_ - 1);
         const std::size_t last = length_ == 0 ? start_ : start_ + length_ - 1;
         const std::size_t end = std::min(text_.find(L'\r', last), text_.size() - 1);
-        for (std::size_t i = before == text_.npos ? 0 : before + 1; i <= end && i < text_.size(); ++i) {
+        for (std::size_t i = before == text_.npos ? 0 : before + 1; i <= end && i < text_.size(); ++i)
             looks_[i].*member = value;
-        }
     }
 
     std::wstring text_;
     std::vector<Look> looks_; // one for each character
-    std::size_t start_ = 0;
-    std::size_t length_ = 0;
+    std::size_t start_ = 0, length_ = 0;
     std::optional<Look> insertion_; // set with an empty selection, until the caret moves
 };

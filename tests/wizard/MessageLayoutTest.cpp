@@ -21,6 +21,7 @@ TEST(MessageLayout, StandsInTheMiddleAndOnTheScreen) {
         {"medium",            1,  96, kScreen,                     {},                                {4810, 3570, 5740, 4380}},
         {"large",             2,  96, kScreen,                     {},                                {4330, 3090, 6700, 5340}},
         {"large too",         3,  96, kScreen,                     {},                                {4330, 3090, 6700, 5340}},
+        {"as made too",       4,  96, kScreen,                     {},                                {5110, 3940, 5140, 3640}},
         {"as made",          -1,  96, kScreen,                     {},                                {5110, 3940, 5140, 3640}},
         {"144 DPI",           0, 144, kScreen,                     {},                                {2550, 2020, 5140, 3640}},
         {"task bar left",     0,  96, PixelArea{62, 0, 1024, 768}, {},                                {5110, 3940, 5140, 3640}},

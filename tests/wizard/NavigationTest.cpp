@@ -1,19 +1,16 @@
-// What the walks cannot show of moving between pages: odd stored values, clicks that come too early, the end
-// of the session, what start-up leaves.
+// What the walks cannot show of moving between pages: clicks that come too early, the end of the session,
+// what start-up leaves.
 
 #include "app/Registry.h"
 #include "app/Settings.h"
 #include "app/StartUp.h"
 #include "ftw/FtwPages.h"
-#include "ndw/NdwPages.h"
 #include "tests/support/Scratch.h"
 #include "wizard/frmWizard.h"
 
 #include <gtest/gtest.h>
 
 namespace {
-
-std::wstring Progress() { return ReadIniString(L"General", L"FTSW_MaxProgress", L""); }
 
 bool QuitWasPosted() {
     MSG message{};
@@ -26,9 +23,7 @@ bool QuitWasPosted() {
 // The first wizard in a suite of its own, on a page.
 class Navigation : public testing::Test {
   protected:
-    void Start(std::int16_t page, const std::string& progress = "") {
-        suite.Ini("[General]\r\nFTSW_MaxProgress=" + progress + "\r\n");
-        FtwBook().load(form);
+    void Start(std::int16_t page) {
         form.PageNo = page;
         form.ShowPage();
     }
@@ -37,38 +32,6 @@ class Navigation : public testing::Test {
 };
 
 } // namespace
-
-TEST_F(Navigation, ProgressOnlyGrowsWhateverIsStored) {
-    const std::pair<const char*, const wchar_t*> rows[] = {
-        {"", L"11"}, {"7", L"11"}, {"12", L"12"}, {"abc", L"11"}, {"\" 19 x\"", L" 19 x"}};
-    for (const auto& [stored, progress] : rows) {
-        Start(11, stored);
-        form.cmdNext_Click();
-        EXPECT_EQ(Progress(), progress) << stored;
-        EXPECT_EQ(form.picHeader.ToolTip(), L"Progress: " + std::wstring(progress).substr(*progress == L' '));
-    }
-}
-
-TEST_F(Navigation, KeepIsOfferedAfterPageFive) {
-    const std::pair<const char*, bool> rows[] = {{"", false}, {"5", false},   {"-6", false}, {"abc", false},
-                                                 {"6", true}, {" 17 ", true}, {"6x", true},  {"65541", true}};
-    for (const auto& [progress, offered] : rows) {
-        Start(2, progress);
-        EXPECT_EQ(form.pool.optUserInput[1].Enabled(), offered) << progress;
-    }
-}
-
-// A location longer than the box usually takes is not cut.
-TEST_F(Navigation, TheLocationBoxGrows) {
-    for (const std::size_t length : {0U, 250U, 20000U}) {
-        Start(2, "6");
-        ftwSession.location.folders = std::wstring(length, L'x');
-        form.PageNo = 9;
-        form.ShowPage();
-        EXPECT_EQ(form.pool.txtUserInput[0].Text().size(), length);
-        EXPECT_EQ(form.pool.txtUserInput[0].Send(EM_GETLIMITTEXT), std::max<LRESULT>(250, length));
-    }
-}
 
 // While a box is open another click, as an impatient person's, does nothing.
 TEST_F(Navigation, AClickWhileItsHandlerRunsIsDropped) {
