@@ -33,41 +33,31 @@ template <std::size_t N> struct Name {
     }
 };
 
+// Stands in for the function of that name: `kResult` and `kError` when the call is to fail.
+template <Name kName, std::uintptr_t kResult, DWORD kError, class Function> struct Failing;
+template <Name kName, std::uintptr_t kResult, DWORD kError, class Result, class... Arguments>
+struct Failing<kName, kResult, kError, Result(WINAPI*)(Arguments...)> {
+    static inline void* original = nullptr;
+    static Result WINAPI Call(Arguments... arguments) {
+        if (!FailsNow(kName.text))
+            return reinterpret_cast<Result(WINAPI*)(Arguments...)>(original)(arguments...);
+        SetLastError(kError);
+        return (Result)kResult; // an integer or a handle
+    }
+};
+
 struct Row {
     const char* name;
     void* replacement;
     void** original;
-    void (*setUp)(std::uintptr_t result, DWORD error);
-    std::uintptr_t result; // of the call that fails
-    DWORD error;           // its last error
 };
 
-template <Name kName, class Function> struct Failing;
-template <Name kName, class Result, class... Arguments> struct Failing<kName, Result(WINAPI*)(Arguments...)> {
-    static inline void* original = nullptr;
-    static inline std::uintptr_t result = 0;
-    static inline DWORD error = 0;
-
-    static void SetUp(std::uintptr_t failed, DWORD code) {
-        result = failed;
-        error = code;
-    }
-    static Result WINAPI Call(Arguments... arguments) {
-        if (!FailsNow(kName.text))
-            return reinterpret_cast<Result(WINAPI*)(Arguments...)>(original)(arguments...);
-        SetLastError(error);
-        return (Result)result; // an integer or a handle
-    }
-};
-
-template <Name kName, class Function> Row Fails(std::uintptr_t result, DWORD error) {
-    using Replaced = Failing<kName, Function>;
-    return {
-        kName.text, reinterpret_cast<void*>(&Replaced::Call), &Replaced::original, &Replaced::SetUp, result,
-        error};
+template <Name kName, std::uintptr_t kResult, DWORD kError, class Function> Row Fails(Function*) {
+    using Replaced = Failing<kName, kResult, kError, Function*>;
+    return {kName.text, reinterpret_cast<void*>(&Replaced::Call), &Replaced::original};
 }
 
-#define FAILS(function, result, error) Fails<#function, decltype(&(function))>(result, error)
+#define FAILS(function, result, error) Fails<#function, result, error>(&(function))
 
 constexpr std::uintptr_t kNoHandle = static_cast<std::uintptr_t>(-1);
 constexpr std::uintptr_t kNoAttributes = INVALID_FILE_ATTRIBUTES;
@@ -133,7 +123,6 @@ void Replace(const char* name, IMAGE_THUNK_DATA& entry) {
         *row.original = reinterpret_cast<void*>(entry.u1.Function);
         entry.u1.Function = reinterpret_cast<std::uintptr_t>(row.replacement);
         VirtualProtect(&entry, sizeof entry, protection, &protection);
-        row.setUp(row.result, row.error);
     }
 }
 

@@ -25,23 +25,23 @@ struct Scene {
     std::wstring Log() const { return suite.Folder() + L"calls.txt"; }
 };
 
-// Selects what makes the wizard do more: the first sample, the shortcuts.
+constexpr wchar_t kCncFolder[] = L"C:\\CNC faults";
+
+// Selects what makes the wizard do more: the first sample, a folder to be made.
 void AskForMore(const Walker& walker, const std::wstring& heading) {
-    for (HWND child : ChildrenOf(walker.Main())) {
-        const std::wstring kind = ClassOf(child);
-        if (heading.starts_with(L"Import Sample") && kind == L"ListBox") Ask(child, LB_SETSEL, TRUE, 0);
-        if (heading.find(L"CNC file location") != std::wstring::npos && kind == L"Edit") {
-            const std::wstring folder = L"C:\\CNC faults";
-            Ask(child, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(folder.c_str()));
-        }
-    }
+    if (heading.starts_with(L"Import Sample"))
+        for (HWND list : ChildrenOf(walker.Main(), L"ListBox"))
+            Ask(list, LB_SETSEL, TRUE, 0);
+    if (heading == L"Specify CNC file location")
+        for (HWND box : ChildrenOf(walker.Main(), L"Edit"))
+            Ask(box, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(kCncFolder));
 }
 
 Journey Run(Scene& scene, const std::wstring& failing) {
     for (const std::wstring& file : FileNames(scene.suite.Settings()))
-        if (file != L"VarnelDnc.ini") DeleteFileW((scene.suite.Settings() + file).c_str());
-    RemoveDirectoryW(L"C:\\CNC faults");
-    WriteFileBytes(scene.suite.Settings() + L"VarnelDnc.ini", "[General]\r\nKept=yes\r\n");
+        DeleteFileW((scene.suite.Settings() + file).c_str());
+    RemoveDirectoryW(kCncFolder);
+    WriteFileBytes(scene.suite.Settings() + kIniName, "[General]\r\nKept=yes\r\n");
     SetEnvironmentVariableW(L"VWIZARD_FAIL", failing.c_str());
     const WizardDriver wizard(scene.suite, scene.arguments, WizardDriver::Wait::No);
     Walker walker(wizard);
@@ -63,8 +63,7 @@ void RunAll(Tally& tally, Scene& scene) {
         for (const wchar_t* after : {L"", L"+"}) {
             const std::string& name = scene.calls[call - 1];
             const std::wstring which = std::to_wstring(call) + after;
-            std::wstring what = std::wstring(name.begin(), name.end());
-            what.append(L" (").append(which).append(L" ").append(scene.arguments).append(L"): ");
+            const std::wstring what = FromUtf8(name) + L" (" + which + L" " + scene.arguments + L"): ";
             const std::wstring trouble = Run(scene, which).trouble;
             tally.Expect(trouble.empty(), what + trouble);
             tally.Expect(scene.suite.Setting(L"Kept") == L"yes", what + L"a key was lost");

@@ -66,7 +66,7 @@ constexpr WORD kKeys[] = {
 // clang-format on
 
 constexpr int kNextId = 100, kBackId = 101, kHeadingId = 120, kBoxTextId = 65535;
-constexpr std::size_t kIconOffset = 114, kIconEnd = 178;
+constexpr int kIconOffset = 114, kIconEnd = 178;
 
 struct Control {
     HWND window;
@@ -296,10 +296,11 @@ class Monkey {
         FillDcpRecords(records, answers, L"");
         PrepareForWriting(records);
         const auto expected = DcpBytes(records, ToAnsiByte);
-        if (size != expected.size()) Fail(L"the file has " + std::to_wstring(size) + L" bytes");
-        for (std::size_t i = 0; i < expected.size(); ++i)
-            if ((i < kIconOffset || i >= kIconEnd) && bytes[i] != expected[i])
-                Fail(L"the file differs from the answers at " + std::to_wstring(i));
+        const auto same = [&](int from, int to) {
+            return std::equal(expected.begin() + from, expected.begin() + to, bytes.begin() + from);
+        };
+        if (size != kDcpFileSize || !same(0, kIconOffset) || !same(kIconEnd, kDcpFileSize))
+            Fail(L"a file of " + std::to_wstring(size) + L" bytes differs from the answers");
     }
 
     void NoteLocation() {

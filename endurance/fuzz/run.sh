@@ -8,7 +8,7 @@ set -euo pipefail
 cd "$(dirname "$0")/../.."
 source tools/build.sh
 mkdir -p build/fuzz
-build_preset native > build/fuzz/build.log 2>&1 || { cat build/fuzz/build.log; exit 1; }
+build_preset native fuzz > build/fuzz/build.log 2>&1 || { cat build/fuzz/build.log; exit 1; }
 
 # unpack TEXT FOLDER: one file for each line
 unpack() { perl -ne 'chomp; open my $input, ">", "'"$2"'/kept$."; print $input pack "H*", $_' "$1"; }
