@@ -85,7 +85,11 @@ void Form::EndArrangement() {
         for (Control* control : std::exchange(noted_, {}))
             control->Settle();
     if (--arrangements_ > 0) return;
-    if (isUnpainted_) DefWindowProcW(hwnd_, WM_SETREDRAW, TRUE, 0);
+    if (isUnpainted_) {
+        DefWindowProcW(hwnd_, WM_SETREDRAW, TRUE, 0);
+        // Only what was uncovered is to be painted: not the frame.
+        RedrawWindow(hwnd_, nullptr, nullptr, RDW_VALIDATE | RDW_NOFRAME | RDW_NOCHILDREN);
+    }
     Uncover(std::exchange(uncovered_, {}));
     if (Control* control = std::exchange(focus_, nullptr)) Focus(*control);
 }
