@@ -6,38 +6,16 @@
 #include "app/Text.h"
 #include "ftw/FtwPages.h"
 #include "ftw/TransmitRoot.h"
+#include "wizard/Markup.h"
 #include "wizard/frmWizard.h"
 
-#include <algorithm>
-
 namespace {
-
-// A "<" that was typed is no tag: it goes through the mark-up as a character that no keyboard has.
-constexpr wchar_t kTypedLessThan = L'\xE000';
-
-std::wstring GuardedFromMarkup(std::wstring text) {
-    std::replace(text.begin(), text.end(), L'<', kTypedLessThan);
-    return text;
-}
-
-void RestoreTypedLessThan(win::RichText& info) {
-    for (auto at = info.Text().find(kTypedLessThan); at != std::wstring::npos;
-         at = info.Text().find(kTypedLessThan)) {
-        info.SelStart(static_cast<std::int32_t>(at));
-        info.SelLength(1);
-        info.SelText(L"<");
-        info.SelStart(static_cast<std::int32_t>(at));
-        info.SelLength(1);
-        info.SelBold(true); // as the location around it
-    }
-    info.ScrollToTop();
-}
 
 std::wstring LocationBlock(const std::wstring& folders) {
     const std::wstring path = LocationPath(folders);
     if (TrimBlanks(folders).empty())
         return L"Click <b>Next</b> to allow access to all files on your computer.";
-    const std::wstring shown = L"     <b>" + GuardedFromMarkup(folders) + L"</b>";
+    const std::wstring shown = L"     <b>" + WithoutTags(folders) + L"</b>";
     if (FolderExists(path))
         return L"Click <b>Next</b> to confirm the location of your CNC program files:\r\n" + shown;
     return L"<b><r>The folder you specified does not exist:</r></b>\r\n" + shown +
@@ -89,7 +67,6 @@ void PageFtwConfirmLocation(frmWizard& form) {
                    L"\r\n\r\nClick <b>Back</b> to choose a different file location.\r\n\r\n"
                    L"You can change the file location or add more folders later by clicking <b>Root "
                    L"folders</b> in the Varnel DNC File Manager's <b>Configure</b> menu.");
-    RestoreTypedLessThan(form.txtInfo);
     // Hidden, but read when the page is left: another page has used the box for something else.
     form.pool.chkUserInput[0].Checked(ftwSession.location.floppy);
 }

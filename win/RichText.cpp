@@ -10,6 +10,7 @@ namespace win {
 
 namespace {
 
+constexpr int kPointsPerInch = 72;
 constexpr LONG kBulletOffset = 180; // twips between a bullet and its text
 
 CHARFORMAT2W CharFormat(DWORD mask) {
@@ -19,10 +20,25 @@ CHARFORMAT2W CharFormat(DWORD mask) {
     return format;
 }
 
-PARAFORMAT2 ParaFormat(DWORD mask) {
+PARAFORMAT2 ParaFormat(const FormattedText::Paragraph& look) {
     PARAFORMAT2 format{};
     format.cbSize = sizeof format;
-    format.dwMask = mask;
+    format.dwMask = PFM_NUMBERING | PFM_OFFSET | PFM_STARTINDENT | PFM_RIGHTINDENT;
+    format.wNumbering = look.bullet ? PFN_BULLET : 0;
+    format.dxOffset = look.bullet ? kBulletOffset : 0;
+    format.dxStartIndent = look.indent;
+    format.dxRightIndent = look.rightIndent;
+    return format;
+}
+
+// Only what differs from plain text.
+CHARFORMAT2W CharFormat(const FormattedText::Character& look) {
+    CHARFORMAT2W format = CharFormat((look.bold ? CFM_BOLD : 0) | (look.italic ? CFM_ITALIC : 0) |
+                                     (look.color ? CFM_COLOR : 0) | (look.fontSize ? CFM_SIZE : 0));
+    format.dwEffects =
+        format.dwMask & (CFM_BOLD | CFM_ITALIC); // the bits of the effects are those of the mask
+    format.crTextColor = look.color;
+    format.yHeight = look.fontSize * (kTwipsPerInch / kPointsPerInch);
     return format;
 }
 
@@ -36,6 +52,13 @@ CHARFORMAT2W PlainFormat(HFONT font) {
     format.bCharSet = face.lfCharSet;
     lstrcpynW(format.szFaceName, face.lfFaceName, LF_FACESIZE);
     return format;
+}
+
+std::wstring WithLineFeeds(const std::wstring& text) {
+    std::wstring result;
+    for (const wchar_t c : text)
+        c == L'\r' ? result += L"\r\n" : result += c;
+    return result;
 }
 
 } // namespace
@@ -62,7 +85,8 @@ bool RichText::IsPlain() const {
     const CHARFORMAT2W plain = PlainFormat(Font());
     CHARFORMAT2W present = CharFormat(0);
     Ask(EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&present));
-    PARAFORMAT2 flush = ParaFormat(0);
+    PARAFORMAT2 flush{};
+    flush.cbSize = sizeof flush;
     Ask(EM_GETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&flush));
     return (present.dwEffects & plain.dwMask) == plain.dwEffects && present.yHeight == plain.yHeight &&
            present.bCharSet == plain.bCharSet && lstrcmpiW(present.szFaceName, plain.szFaceName) == 0 &&
@@ -70,19 +94,34 @@ bool RichText::IsPlain() const {
            flush.dxOffset == 0;
 }
 
-void RichText::SetText(std::wstring_view text) {
-    SetWindowTextW(Handle(), std::wstring(text).c_str());
-    // Some versions keep the first character's format for all of the new text, others forget all formats.
-    // Formatting anew what is plain already would cost more than all the rest: the text would be measured
-    // again, with fonts that have just been thrown away.
-    SelStart(0);
-    PlaceCaret();
-    if (IsPlain()) return;
-    SelLength(-1);
+// Some versions keep the first character's format for all of a new text, others forget all formats.
+// Formatting anew what is plain already would cost more than all the rest: the text would be measured again,
+// with fonts that have just been thrown away.
+void RichText::SetText(const FormattedText& text) {
+    SetWindowTextW(Handle(), WithLineFeeds(text.Text()).c_str());
+    Select(0, 0);
+    if (!IsPlain()) MakePlain();
+    for (const auto& run : text.ParagraphRuns()) {
+        // With its line end the selection would reach the next paragraph.
+        Select(run.start, run.end - (text.Text()[static_cast<std::size_t>(run.end) - 1] == L'\r' ? 1 : 0));
+        PARAFORMAT2 format = ParaFormat(run.look);
+        Send(EM_SETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&format));
+    }
+    for (const auto& run : text.CharacterRuns()) {
+        Select(run.start, run.end);
+        CHARFORMAT2W format = CharFormat(run.look);
+        Send(EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
+    }
+    ScrollToTop();
+}
+
+void RichText::MakePlain() {
+    Select(0, -1);
     CHARFORMAT2W plain = PlainFormat(Font());
     Send(EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&plain));
-    PARAFORMAT2 flush = ParaFormat(PFM_NUMBERING | PFM_STARTINDENT | PFM_RIGHTINDENT | PFM_OFFSET);
+    PARAFORMAT2 flush = ParaFormat(FormattedText::Paragraph{});
     Send(EM_SETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&flush));
+    Select(0, 0);
 }
 
 void RichText::ScrollBar(bool visible) {
@@ -104,102 +143,15 @@ std::wstring RichText::Text() const {
     return text;
 }
 
-void RichText::Select(CHARRANGE range) const {
+void RichText::Select(std::int32_t start, std::int32_t end) {
     CHARRANGE present{};
     Ask(EM_EXGETSEL, 0, reinterpret_cast<LPARAM>(&present));
-    if (range.cpMin != present.cpMin || range.cpMax != present.cpMax)
-        Ask(EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&range));
-}
-
-void RichText::PlaceCaret() const {
-    if (const auto start = std::exchange(start_, std::nullopt)) Select({*start, *start});
-}
-
-void RichText::SelStart(std::int32_t position) { start_ = position; }
-
-void RichText::SelLength(std::int32_t length) {
-    CHARRANGE range{};
-    Send(EM_EXGETSEL, 0, reinterpret_cast<LPARAM>(&range));
-    if (const auto start = std::exchange(start_, std::nullopt)) range.cpMin = *start;
-    Select({range.cpMin, length < 0 ? -1 : range.cpMin + length});
-}
-
-void RichText::SelText(std::wstring_view text) {
-    PlaceCaret();
-    Send(EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(std::wstring(text).c_str()));
-}
-
-// The bits of the effects are those of the mask.
-void RichText::SetCharFormat(const CHARFORMAT2W& wanted) {
-    PlaceCaret();
-    CHARFORMAT2W present = CharFormat(0);
-    Ask(EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&present));
-    const bool isSame = (present.dwMask & wanted.dwMask) == wanted.dwMask &&
-                        (present.dwEffects & wanted.dwMask) == wanted.dwEffects &&
-                        (!(wanted.dwMask & CFM_COLOR) || (wanted.dwEffects & CFE_AUTOCOLOR) ||
-                         present.crTextColor == wanted.crTextColor);
-    if (!isSame) Send(EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&wanted));
-}
-
-void RichText::SelBold(bool bold) {
-    CHARFORMAT2W format = CharFormat(CFM_BOLD);
-    format.dwEffects = bold ? CFE_BOLD : 0;
-    SetCharFormat(format);
-}
-
-void RichText::SelItalic(bool italic) {
-    CHARFORMAT2W format = CharFormat(CFM_ITALIC);
-    format.dwEffects = italic ? CFE_ITALIC : 0;
-    SetCharFormat(format);
-}
-
-void RichText::SelColor(std::uint32_t rgb) {
-    CHARFORMAT2W format = CharFormat(CFM_COLOR);
-    // Black means the system's text colour, so that a high-contrast scheme stays readable.
-    if (rgb == 0) format.dwEffects = CFE_AUTOCOLOR;
-    format.crTextColor = rgb;
-    SetCharFormat(format);
-}
-
-void RichText::SelBullet(bool bullet) {
-    PlaceCaret();
-    PARAFORMAT2 format = ParaFormat(PFM_NUMBERING | PFM_OFFSET);
-    format.wNumbering = bullet ? PFN_BULLET : 0;
-    format.dxOffset = bullet ? kBulletOffset : 0;
-    Send(EM_SETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&format));
-}
-
-void RichText::SelIndent(std::int16_t twips) {
-    PlaceCaret();
-    PARAFORMAT2 format = ParaFormat(PFM_STARTINDENT);
-    format.dxStartIndent = twips;
-    Send(EM_SETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&format));
-}
-
-void RichText::SelRightIndent(std::int16_t twips) {
-    PlaceCaret();
-    PARAFORMAT2 format = ParaFormat(PFM_RIGHTINDENT);
-    format.dxRightIndent = twips;
-    Send(EM_SETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&format));
-}
-
-void RichText::SelFontSize(std::int16_t points) {
-    PlaceCaret();
-    CHARFORMAT2W format = CharFormat(CFM_SIZE);
-    format.yHeight = points * (kTwipsPerInch / 72);
-    Send(EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
-}
-
-std::int16_t RichText::SelFontSize() const {
-    PlaceCaret();
-    CHARFORMAT2W format = CharFormat(CFM_SIZE);
-    Ask(EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
-    return static_cast<std::int16_t>(format.yHeight / (kTwipsPerInch / 72));
+    CHARRANGE range{start, end};
+    if (present.cpMin != start || present.cpMax != end) Ask(EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&range));
 }
 
 void RichText::ScrollToTop() {
-    SelStart(0);
-    PlaceCaret();
+    Select(0, 0);
     Send(EM_SCROLLCARET);
 }
 

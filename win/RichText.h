@@ -1,17 +1,14 @@
 #pragma once
 
-// A read-only rich-text control with the selection properties that the page mark-up needs. Positions
-// count characters from 0 and a line end as one, as the control itself does; Text() gives the text in
-// the same units (CR alone ends a line). Indents are twips, font sizes points.
+// A read-only rich-text control. Text() gives the text as the control counts it: CR alone ends a line.
 
 #include "win/Control.h"
+#include "win/FormattedText.h"
 
 #include <richedit.h>
 
 #include <cstdint>
-#include <optional>
 #include <string>
-#include <string_view>
 
 namespace win {
 
@@ -22,21 +19,9 @@ class RichText : public Control {
                                     ES_NOOLEDRAGDROP | WS_VSCROLL | WS_TABSTOP;
     static constexpr const wchar_t* kClassName = L"RichEdit20W";
 
-    // Replaces the whole text and puts it into the control's font, black, neither bold nor bulleted.
-    void SetText(std::wstring_view text);
+    // Replaces the whole text. What `text` leaves plain gets the control's font in the system's text colour.
+    void SetText(const FormattedText& text);
     std::wstring Text() const;
-
-    void SelStart(std::int32_t position);
-    void SelLength(std::int32_t length);
-    void SelText(std::wstring_view text);
-    void SelBold(bool bold);
-    void SelItalic(bool italic);
-    void SelColor(std::uint32_t rgb);
-    void SelBullet(bool bullet);
-    void SelIndent(std::int16_t twips);
-    void SelRightIndent(std::int16_t twips);
-    void SelFontSize(std::int16_t points);
-    std::int16_t SelFontSize() const;
 
     // For a control bound without WS_VSCROLL, whose text then keeps its width whatever its height is.
     void ScrollBar(bool visible);
@@ -55,13 +40,9 @@ class RichText : public Control {
     }
     int LineHeight() const; // pixels
     bool IsPlain() const;   // the format at the caret
-    void SetCharFormat(const CHARFORMAT2W& wanted);
-    void PlaceCaret() const; // where SelStart has put it
-    void Select(CHARRANGE range) const;
+    void MakePlain();       // the whole text
+    void Select(std::int32_t start, std::int32_t end);
 
-    // Set by SelStart. Most often SelLength follows: one selection instead of two, each of which the control
-    // would mark for painting.
-    mutable std::optional<std::int32_t> start_;
     bool hasScrollBar_ = false; // made visible by ScrollBar
 };
 

@@ -2,7 +2,6 @@
 
 #include "app/Names.h"
 #include "app/Settings.h"
-#include "wizard/Markup.h"
 #include "wizard/frmWizard.h"
 
 #include <utility>
@@ -119,9 +118,8 @@ void frmWizard::ShowPage() {
     const Arrangement arrangement(*this, PageArea()); // half a page is never seen
     cmdBack.Enabled(PageNo != 1);
     pool.ClearPage(txtInfo);
-    ResetInfo(txtInfo);
     const Page* page = FindPage(book_.pages, PageNo);
-    if (!page) return;
+    if (!page) return txtInfo.SetText(win::FormattedText());
     cmdNext.Focus(); // unless the builder knows better
     cmdNext.Text(page->nextCaption);
     cmdSkip.Visible(page->skip == Show::Yes);

@@ -73,9 +73,9 @@ std::int16_t frmMessage::Show(const std::wstring& message, std::int16_t buttons,
     const MessageScreen screen{AreaOf(win::WorkArea()), win::Dpi(), GetSystemMetrics(SM_CYCAPTION)};
     PlaceControls(LayOutMessage(size, SetOf(buttons).count, screen, AreaOf(owner)));
     SetButtons(buttons);
-    txtMessage.SetText(message);
-    FormatText(txtMessage);
-    txtMessage.ScrollToTop();
+    win::FormattedText text(message);
+    FormatText(text);
+    txtMessage.SetText(text);
     SetWindowTextW(Hwnd(), title.empty() ? kApplicationTitle : (locations.ExeName + L" - " + title).c_str());
     cmdButton[0].Focus();
     // The program waits, whether the caller names a window or not.

@@ -174,7 +174,7 @@ void frmWizard::Form_Load() {
     MoveToItsPlace();
 
     picHeader.Visible(true);
-    txtInfo.SetText(L"Initializing...");
+    txtInfo.SetText(win::FormattedText(L"Initializing..."));
     txtInfo.Visible(true);
     ShowWindow(Hwnd(), SW_SHOWNORMAL);
     win::PumpPendingMessages();
@@ -242,9 +242,9 @@ void frmWizard::WriteHeading(std::wstring_view heading) {
 void frmWizard::WriteInfo(std::wstring_view text) {
     constexpr win::Twips kTallest = layout::kContentBottom - layout::kTextTop;
     const Arrangement arrangement(*this, PageArea());
-    txtInfo.SetText(text);
-    FormatInfo(txtInfo);
-    txtInfo.ScrollToTop();
+    win::FormattedText formatted(text);
+    FormatInfo(formatted);
+    txtInfo.SetText(formatted);
     const win::Twips needed = txtInfo.TextHeight();
     txtInfo.ScrollBar(needed > kTallest);
     txtInfo.Height(std::min(needed, kTallest));

@@ -1,5 +1,4 @@
 #include "endurance/fuzz/Fuzz.h"
-#include "tests/wizard/MemoryRichText.h"
 #include "wizard/Markup.h"
 
 namespace {
@@ -31,15 +30,13 @@ void Examine(Generator& from) {
     std::wstring text;
     for (std::size_t count = from.Below(40); count > 0; --count)
         text += from.OneOf(kPieces);
-    MemoryRichText control;
-    control.SetText(text);
+    win::FormattedText control(text);
     const std::wstring plain = control.Text();
     FormatInfo(control);
     REQUIRE(control.Text() ==
             Passed(Passed(Passed(plain, L"<r>", L"</r>"), L"<b>", L"</b>"), L"<u>", L"</u>"));
 
-    MemoryRichText message;
-    message.SetText(text);
+    win::FormattedText message(text);
     FormatText(message);
     std::wstring left = WithBreaks(Passed(plain, L"<b>", L"</b>"));
     left = Passed(Passed(Passed(left, L"<i>", L"</i>"), L"<l>", L"</l>"), L"<u>", L"</u>");

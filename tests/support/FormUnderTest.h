@@ -30,5 +30,5 @@ Spoken SpokenOf(HWND control);
 
 bool IsTabStop(HWND control); // may take the focus by Tab
 
-// The text of a control and the look of each character, noted as MemoryRichText does.
+// The text of a control and the look of each character, noted as in tests/wizard/Described.h.
 std::wstring Described(win::RichText& control, const wchar_t* lineEnd = L"/");

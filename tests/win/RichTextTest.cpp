@@ -1,16 +1,15 @@
 #include "win/RichText.h"
 
 #include "tests/support/FormUnderTest.h"
-#include "tests/wizard/MemoryRichText.h"
+#include "tests/wizard/Described.h"
 #include "wizard/Markup.h"
 
 #include <gtest/gtest.h>
 
 #include <richedit.h>
 
-// The mark-up means the same on the system's control as in the model that the other tests use, also when
-// the control held a marked-up text before.
-TEST(RichText, RendersLikeTheModel) {
+// The system's control shows what was put together in memory, also when it held another text before.
+TEST(RichText, ShowsTheFormattedText) {
     constexpr std::wstring_view kTexts[] = {
         L"",
         L"<b><r>Not there:</r></b> no",
@@ -27,13 +26,10 @@ TEST(RichText, RendersLikeTheModel) {
     win::RichText& control = test.form.txtInfo;
     for (const std::wstring_view text : kTexts)
         for (const bool message : {false, true}) {
-            MemoryRichText model;
-            ResetInfo(control);
-            control.SetText(text);
-            model.SetText(text);
-            message ? FormatText(control) : FormatInfo(control);
+            win::FormattedText model(text);
             message ? FormatText(model) : FormatInfo(model);
-            EXPECT_EQ(Described(control), model.Described());
+            control.SetText(model);
+            EXPECT_EQ(Described(control), Described(model));
         }
 }
 

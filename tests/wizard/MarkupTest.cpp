@@ -1,10 +1,10 @@
 #include "wizard/Markup.h"
 
-#include "tests/wizard/MemoryRichText.h"
+#include "tests/wizard/Described.h"
 
 #include <gtest/gtest.h>
 
-using Pass = void (*)(MemoryRichText&);
+using Pass = void (*)(win::FormattedText&);
 
 // A "+" is typed behind the last element: that tells what its end has reset.
 TEST(Markup, Renders) {
@@ -12,7 +12,7 @@ TEST(Markup, Renders) {
     struct Row {
         Pass pass;
         std::wstring_view text;
-        std::wstring_view rendered; // as MemoryRichText::Described
+        std::wstring_view rendered; // as Described()
     };
     // clang-format off
     const Row rows[] = {
@@ -47,26 +47,15 @@ TEST(Markup, Renders) {
     };
     // clang-format on
     for (const Row& row : rows) {
-        MemoryRichText control;
-        control.SetText(row.text);
-        row.pass(control);
-        if (row.rendered.ends_with(L'+')) control.SelText(L"+");
-        EXPECT_EQ(control.Described(), row.rendered) << testing::PrintToString(row.text);
+        win::FormattedText text(row.text);
+        row.pass(text);
+        if (row.rendered.ends_with(L'+')) text.SelText(L"+");
+        EXPECT_EQ(Described(text), row.rendered) << testing::PrintToString(row.text);
     }
 }
 
-TEST(Markup, ResetGivesPlainText) {
-    MemoryRichText control;
-    control.SetText(L"<r><b>Stop</b></r>");
-    FormatInfo(control);
-    ResetInfo(control);
-    control.SetText(L"Go on.");
-    EXPECT_EQ(control.Described(), L"Go on.");
-}
-
 TEST(Markup, PositionsHave16Bits) {
-    MemoryRichText control;
-    control.SetText(std::wstring(32766, L'x') + L"<b>a");
+    win::FormattedText control(std::wstring(32766, L'x') + L"<b>a");
     FormatInfo(control);
     EXPECT_EQ(control.Text().size(), 32767u);
     control.SetText(std::wstring(32767, L'x') + L"<b>a");
