@@ -199,8 +199,9 @@ void frmWizard::ShowModeIcon() {
     const int icon = IDI_DEVICE + startUp.WizardMode;
     largeIcon_.emplace(icon, GetSystemMetrics(SM_CXICON));
     smallIcon_.emplace(icon, GetSystemMetrics(SM_CXSMICON));
-    SendMessageW(Hwnd(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(largeIcon_->Get()));
+    // In this order: a large icon by itself would have the system shrink it to a small one.
     SendMessageW(Hwnd(), WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(smallIcon_->Get()));
+    SendMessageW(Hwnd(), WM_SETICON, ICON_BIG, reinterpret_cast<LPARAM>(largeIcon_->Get()));
 }
 
 // The installer makes the wizard run once at the next log-on; a start by hand takes that back.
