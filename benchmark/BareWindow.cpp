@@ -1,6 +1,8 @@
 // The least that a window in C++ costs: one class, one window, a handler, an edge for exceptions and a
 // message loop. What the wizard takes beyond this is its own.
 
+#include "benchmark/BareWindow.h"
+
 #include <windows.h>
 
 #include <functional>
@@ -44,8 +46,9 @@ HWND MakeWindow(HINSTANCE instance) {
     windowClass.hbrBackground = GetSysColorBrush(COLOR_WINDOW);
     windowClass.lpszClassName = L"BareWindow";
     if (!RegisterClassW(&windowClass)) throw std::runtime_error("no window class");
-    const HWND window = CreateWindowExW(0, windowClass.lpszClassName, L"Bare window", WS_OVERLAPPEDWINDOW,
-                                        100, 100, 500, 350, nullptr, nullptr, instance, nullptr);
+    const HWND window =
+        CreateWindowExW(0, windowClass.lpszClassName, L"Bare window", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN,
+                        100, 100, 500, 350, nullptr, nullptr, instance, nullptr);
     if (!window) throw std::runtime_error("no window");
     return window;
 }
@@ -59,7 +62,9 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR, int) {
         return 0;
     };
     try {
-        ShowWindow(MakeWindow(instance), SW_SHOWNORMAL);
+        const HWND window = MakeWindow(instance);
+        AddControls(window);
+        ShowWindow(window, SW_SHOWNORMAL);
     } catch (const std::exception& error) {
         MessageBoxA(nullptr, error.what(), "Bare window", MB_OK);
         return 1;

@@ -25,9 +25,10 @@ Program FirstTimeSetup(const Bench& bench) { return Wizard(bench, "First-Time Se
 Program NewDevice(const Bench& bench) { return Wizard(bench, "New Device", L"/NDW"); }
 
 std::vector<Runs> Peers(const Bench& bench) {
-    const std::wstring bare = L"\"" + bench.programs + L"bare_window.exe\"";
+    const std::wstring bare = L"\"" + bench.programs + L"bare_";
     return {
-        {{"bare window", bare, L"BareWindow", nullptr, nullptr}, true, 1.4},
+        {{"bare window", bare + L"window.exe\"", L"BareWindow", nullptr, nullptr}, true, 1.4},
+        {{"bare controls", bare + L"controls.exe\"", L"BareWindow", L"Button", kNext}, true},
         {{"Wine's notepad", L"notepad.exe", L"Notepad", L"Edit", nullptr}, false, 1.0},
         {{"Wine's winecfg", L"winecfg.exe", L"#32770", L"Button", L"OK"}, false, 0.8},
     };
@@ -53,6 +54,11 @@ void RunOnce(Runs& runs) {
 void PrintStart(const Runs& ours, const Runs& theirs) {
     PrintRatio(std::string("start, ") + ours.program.name, theirs.program.name, Median(ours.start),
                Median(theirs.start), "ms", theirs.wanted);
+}
+
+void PrintMemory(const Runs& ours, const Runs& theirs, double wanted) {
+    PrintRatio(std::string("private memory, ") + ours.program.name, theirs.program.name, Median(ours.memory),
+               Median(theirs.memory), "kB", wanted);
 }
 
 void MeasureIdleOf(Program program) {
@@ -87,9 +93,12 @@ void MeasureStart(const Bench& bench) {
     for (const Runs& wizard : ours)
         for (const Runs& peer : theirs)
             PrintStart(wizard, peer);
+    // What no program with these controls gets below.
+    theirs[0].wanted = 0;
+    PrintStart(theirs[1], theirs[0]);
+    PrintMemory(theirs[1], theirs[0], 0);
     for (const Runs& wizard : ours)
-        PrintRatio(std::string("private memory, ") + wizard.program.name, theirs[0].program.name,
-                   Median(wizard.memory), Median(theirs[0].memory), "kB", 1.5);
+        PrintMemory(wizard, theirs[0], 1.5);
 }
 
 void MeasureIdle(const Bench& bench) {

@@ -1,0 +1,3 @@
+#include "benchmark/BareWindow.h"
+
+void AddControls(HWND) {}
