@@ -193,5 +193,6 @@ void CheckLeaks(Tally& tally) {
                           after.handles <= before.handles + noise &&
                           after.memory <= before.memory + kMemoryNoise_kB;
         tally.Expect(kept, row.what + Growth(before, after));
+        tally.Note(std::to_string(count) + " " + Utf8(row.what));
     }
 }

@@ -152,6 +152,7 @@ void CheckFileLimit(Tally& tally) {
         tally.Expect(told.empty() && walker.Heading() == L"Finished" && BytesOf(suite, name) == reference,
                      name + L", then without a limit: told " + told);
     }
+    tally.Note("6 limits of the file's size");
 }
 
 // Half of the wizards are ended as soon as the file is there, the others at any moment while it is made.
@@ -195,5 +196,6 @@ void CheckKills(Tally& tally) {
     auto uses = PortUses(walker);
     tally.Expect(uses[1].count == whole && uses.size() == 1,
                  std::to_wstring(uses[1].count) + L" configurations are noted");
-    tally.Note(std::to_string(whole) + " whole, " + std::to_string(partial) + " partial files");
+    tally.Note(std::to_string(count) + " kills, " + std::to_string(whole) + " whole, " +
+               std::to_string(partial) + " partial files");
 }
