@@ -29,10 +29,8 @@ void PageFtwImportSample(frmWizard& form) {
     InputColumn column(form);
     column.Width(layout::kTextWidth);
     column.Prompt(0, L"Sample &configurations");
-    auto& list = column.List(0, layout::kContentBottom - layout::kGapBetween - column.Top());
-    list.Clear();
-    for (const std::wstring& entry : SampleEntries(ListFiles(locations.SamplesPath, L".dcp")))
-        list.Add(entry);
+    column.List(0, layout::kContentBottom - layout::kGapBetween - column.Top())
+        .Fill(SampleEntries(ListFiles(locations.SamplesPath, L".dcp")));
 }
 
 void LeaveFtwImportSample(frmWizard& form, Move move) {

@@ -27,9 +27,7 @@ void PageNdwRxName(frmWizard& form) {
     column.Width(layout::kTextWidth);
     column.Prompt(0, L"&Take the name from");
     auto& formats = column.List(1, kNamingListHeight);
-    formats.Clear();
-    for (const std::wstring_view caption : kReceiveNamings)
-        formats.Add(caption);
+    formats.Fill({std::begin(kReceiveNamings), std::end(kReceiveNamings)});
     formats.Index(ndwSession.answers.receiveNamingIndex);
 
     const win::Twips row = column.Top();

@@ -166,8 +166,12 @@ bool Link::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result
     }
 }
 
-void ListBox::Add(std::wstring_view item) {
-    Send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(std::wstring(item).c_str()));
+void ListBox::Fill(const std::vector<std::wstring>& items) {
+    Send(WM_SETREDRAW, FALSE);
+    Send(LB_RESETCONTENT);
+    for (const std::wstring& item : items)
+        Send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item.c_str()));
+    Send(WM_SETREDRAW, TRUE);
 }
 
 std::wstring ListBox::Item(int index) {

@@ -15,6 +15,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace win {
 
@@ -125,8 +126,8 @@ class TextBox : public Control {
 
 class ListBox : public Control {
   public:
-    void Clear() { Send(LB_RESETCONTENT); }
-    void Add(std::wstring_view item);
+    // Takes the place of what was there; painted once.
+    void Fill(const std::vector<std::wstring>& items);
     int Count() { return static_cast<int>(Send(LB_GETCOUNT)); }
     std::wstring Item(int index);
     int Index() { return static_cast<int>(Send(LB_GETCURSEL)); } // -1: none; single selection only
