@@ -82,7 +82,7 @@ class Zoo {
             if (change.starts_with(suite_.Settings()) || change.find(L".log|") != std::wstring::npos)
                 continue;
             // Of the folder's own name at least this much was typed.
-            change.erase(std::min(change.find_last_not_of(L"\\") + 1, change.size()));
+            change.erase(std::min(change.find_last_not_of(L'\\') + 1, change.size()));
             const std::wstring name = change.substr(change.rfind(L'\\') + 1);
             const bool isFile = name.find(L'|') != std::wstring::npos;
             if (isFile || std::wstring_view(notes_.locations).find(name) == std::wstring_view::npos)
@@ -114,8 +114,9 @@ void CheckMonkey(Tally& tally) {
             slowest = std::max(slowest, zoo.Slowest());
             created += notes.created;
             const bool well = story.empty();
-            story = L"seed " + std::to_wstring(seed) + L" " + arguments + L" event " +
-                    std::to_wstring(notes.events) + L" " + story;
+            std::wstring place = L"seed " + std::to_wstring(seed);
+            place.append(L" ").append(arguments).append(L" event ").append(std::to_wstring(notes.events));
+            story.insert(0, place.append(L" "));
             for (int act = std::max(notes.events - 8, 0); act < notes.events; ++act)
                 story.append(L"\n        ").append(notes.acts[act % 8]);
             tally.Expect(well, story);

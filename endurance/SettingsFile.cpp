@@ -116,7 +116,8 @@ std::vector<std::string> ValuesIn(const std::wstring& file, const std::string& c
         const auto& [name, key] = keys[i];
         value.resize(GetPrivateProfileStringA(name.c_str(), key.c_str(), "(absent)", value.data(), 70000,
                                               Utf8(file).c_str()));
-        values.push_back(key + "=" + value);
+        values.push_back(key);
+        values.back().append("=").append(value);
     }
     return values;
 }

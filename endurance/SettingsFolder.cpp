@@ -44,7 +44,8 @@ Use UseIn(std::wstring text) {
     Use use;
     const std::size_t more = text.find(L" and ");
     if (more != std::wstring::npos) use.count = std::stoul(text.substr(more + 5));
-    for (text = text.substr(0, more) + L", "; !text.empty(); text.erase(0, text.find(L", ") + 2))
+    text.resize(std::min(more, text.size()));
+    for (text += L", "; !text.empty(); text.erase(0, text.find(L", ") + 2))
         use.names.push_back(text.substr(0, text.find(L", ")));
     use.count += use.names.size();
     return use;
@@ -143,14 +144,16 @@ void CheckFileLimit(Tally& tally) {
         std::wstring told = walker.CreateConfiguration();
         const std::size_t size = BytesOf(suite, name).size();
         LimitFiles(process, L"unlimited");
+        std::wstring what = name + L": ";
+        what.append(std::to_wstring(size)).append(L" bytes, told ").append(told);
         if (limit < kFileSize) {
             tally.Expect(told.starts_with(L"The configuration file could not be written:") && size <= limit &&
                              walker.Heading() == kNamePage,
-                         name + L": " + std::to_wstring(size) + L" bytes, told " + told);
+                         what);
             told = walker.CreateConfiguration();
         }
         tally.Expect(told.empty() && walker.Heading() == L"Finished" && BytesOf(suite, name) == reference,
-                     name + L", then without a limit: told " + told);
+                     what.append(L", then without a limit: told ").append(told));
     }
     tally.Note("6 limits of the file's size");
 }
