@@ -87,7 +87,9 @@ void Form::EndArrangement() {
     if (--arrangements_ > 0) return;
     if (isUnpainted_) {
         DefWindowProcW(hwnd_, WM_SETREDRAW, TRUE, 0);
-        // Only what was uncovered is to be painted: not the frame.
+        // Only what was uncovered and what was due before is to be painted: not the frame.
+        RECT due{};
+        if (GetUpdateRect(hwnd_, &due, FALSE)) UnionRect(&uncovered_, &uncovered_, &due);
         RedrawWindow(hwnd_, nullptr, nullptr, RDW_VALIDATE | RDW_NOFRAME | RDW_NOCHILDREN);
     }
     Uncover(std::exchange(uncovered_, {}));
