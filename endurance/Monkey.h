@@ -10,10 +10,12 @@
 struct MonkeyNotes {
     std::uint32_t seed;         // of this run of the wizard
     HWND window;                // takes kMonkeyTurn; null until the wizard is there
+    HWND main;                  // the wizard's own; gone when it is about to end
     int events;                 // done so far
     int created;                // configurations
     wchar_t acts[8][64];        // the last events; number n is in row n % 8
     wchar_t trouble[512];       // "" as long as all is well
+    wchar_t waiting[512];       // for whom, when a turn brought no event
     wchar_t locations[1 << 16]; // folders typed for CNC programs: these may be made anywhere
 };
 

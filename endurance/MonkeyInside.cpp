@@ -169,7 +169,7 @@ class Monkey {
     void LookAndAct() {
         if (!main_) {
             for (HWND window : WindowsOfThread())
-                if (ClassOf(window) == L"VWizardForm") main_ = window;
+                if (ClassOf(window) == L"VWizardForm") notes_.main = main_ = window;
             return;
         }
         if (IsWindowEnabled(main_)) {
@@ -179,8 +179,12 @@ class Monkey {
             CheckAnswers();
             return Act();
         }
-        for (HWND window : WindowsOfThread())
+        std::wstring waiting = L"for a window in front";
+        for (HWND window : WindowsOfThread()) {
+            waiting.append(L", ").append(ClassOf(window)).append(L" ").append(TextOf(window));
             if (window != main_ && IsWindowEnabled(window)) return AnswerAnyhow(window);
+        }
+        notes_.waiting[waiting.copy(notes_.waiting, 511)] = L'\0';
     }
 
     // Listing the windows costs as much as all the rest; new ones come with a page.
@@ -211,6 +215,7 @@ class Monkey {
         for (const Control& control : ControlsOf(modal))
             if (control.IsButton() && IsWindowVisible(control.window) && IsWindowEnabled(control.window))
                 buttons.push_back(control.window);
+        notes_.waiting[TextOf(modal).copy(notes_.waiting, 511)] = L'\0';
         if (buttons.empty()) return; // still being opened
         // Mostly not the end of the program.
         const bool stays = text.starts_with(L"W A R N I N G") && Below(16) != 0;

@@ -172,6 +172,8 @@ void Walker::LeavePage(Journey& journey) {
     HWND next = Next();
     if (visits_ > kMostVisits || !next) Fail(L"no way on from the page " + heading);
     Press(next);
+    if (heading == L"Finished")
+        wizard_.Until([this] { return !wizard_.IsRunning() || Modal(); }, L"the end behind the last page");
 }
 
 Journey Walker::Walk() {
