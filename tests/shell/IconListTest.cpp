@@ -27,7 +27,7 @@ COLORREF ColourOf(const IconList& icons, std::int16_t position) {
 TEST(IconList, KeepsPicturesAndNamesInStep) {
     const ScratchFolder folder;
     WriteFileBytes(folder.Path() + L"R&D 1.x.ico", IconFile("\x10\x20\xF0")); // blue, green, red
-    WriteFileBytes(folder.Path() + L"b.ico", IconFile().substr(0, 40)); // cut
+    WriteFileBytes(folder.Path() + L"b.ico", IconFile().substr(0, 40));       // cut
     WriteFileBytes(folder.Path() + L"\x00C4rmel.ICO", IconFile("\xF0\x20\x10"));
     const IconList icons(folder.Path(), IconKeys(folder.Path()), 48);
     EXPECT_EQ(icons.Keys(), (std::vector<std::wstring>{L"\x00C4rmel", L"R&D 1.x"}));
