@@ -139,10 +139,9 @@ class Monkey {
         MSG next{};
         const bool waits = PeekMessageW(&next, nullptr, 0, 0, PM_NOREMOVE | PM_QS_POSTMESSAGE) &&
                            next.message != WM_TIMER && next.message != kCaretTimer;
-        if (waits && next.message != WM_QUIT) {
-            PostMessageW(notes_.window, kMonkeyTurn, 0, 0);
-            return;
-        }
+        if (waits && next.message == kMonkeyTurn) return; // one is enough
+        if (waits && next.message != WM_QUIT)
+            return static_cast<void>(PostMessageW(notes_.window, kMonkeyTurn, 0, 0));
         if (!waits) LookAndAct();
         SetEvent(turnEnds_);
     }
