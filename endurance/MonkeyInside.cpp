@@ -171,6 +171,11 @@ class Monkey {
                 if (ClassOf(window) == L"VWizardForm") notes_.main = main_ = window;
             return;
         }
+        if (IsInMenu()) {
+            Did(L"leave the menu"); // as a click elsewhere would first of all
+            PostMessageW(main_, WM_KEYDOWN, VK_ESCAPE, 1);
+            return;
+        }
         if (IsWindowEnabled(main_)) {
             Look();
             if (!Of(IDCANCEL)) return all_.clear(); // still being opened
@@ -184,6 +189,12 @@ class Monkey {
             if (window != main_ && IsWindowEnabled(window)) return AnswerAnyhow(window);
         }
         notes_.waiting[waiting.copy(notes_.waiting, 511)] = L'\0';
+    }
+
+    static bool IsInMenu() {
+        GUITHREADINFO info{};
+        info.cbSize = sizeof info;
+        return GetGUIThreadInfo(GetCurrentThreadId(), &info) && (info.flags & GUI_INMENUMODE);
     }
 
     // Listing the windows costs as much as all the rest; new ones come with a page.
