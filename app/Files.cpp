@@ -6,13 +6,27 @@
 
 #include <shellapi.h>
 
+#include <algorithm>
+
 namespace {
 
 // Fails where the shell would have to be asked (a relative pattern, a missing file): never shows a box.
 DWORD Attributes(const std::wstring& path) { return GetFileAttributesW(path.c_str()); }
 
+// The shell's file operation takes paths of less than MAX_PATH characters. Some versions make something else
+// of a longer or an empty one: the current folder.
+bool FitsShell(const std::wstring& files) {
+    std::size_t start = 0;
+    for (std::size_t end = 0; end != files.npos; start = end + 1) {
+        end = files.find(L'\0', start);
+        if (std::min(end, files.size()) - start >= MAX_PATH) return false;
+    }
+    return !files.empty() && files.front() != L'\0';
+}
+
 bool ShellOperation(UINT function, const std::wstring& from, const std::wstring* to, unsigned flags,
                     HWND owner) {
+    if (!FitsShell(from) || (to && !FitsShell(*to))) return false;
     const std::wstring source = from + L'\0'; // the shell wants a list that ends in two NULs
     const std::wstring target = (to ? *to : std::wstring()) + L'\0';
     SHFILEOPSTRUCTW operation{};

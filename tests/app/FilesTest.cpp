@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <shellapi.h>
+
 using Names = std::vector<std::wstring>;
 
 TEST(Files, WhatExists) {
@@ -48,4 +50,18 @@ TEST(Files, ListsOneExtension) {
     std::sort(names.begin(), names.end());
     EXPECT_EQ(names, (Names{L"B.DCP", L"D\u00e4n.Dcp", L"a.dcp"}));
     EXPECT_EQ(ListFiles(folder.Path() + L"missing\\", L".dcp"), Names{});
+}
+
+// Where a path does not fit, the shell has been seen to take the current folder instead.
+TEST(Files, TheShellGetsNoPathThatItCannotTake) {
+    const ScratchFolder current;
+    const std::wstring kept = current.Path() + L"kept.txt";
+    WriteFileBytes(kept, "x");
+    SetCurrentDirectoryW(current.Path().c_str());
+    for (const std::wstring& path : {std::wstring(), L"C:\\" + std::wstring(300, L'x'),
+                                     kept + L'\0' + L"C:\\" + std::wstring(257, L'x')}) {
+        EXPECT_FALSE(DeleteAnyFile(path, FOF_SILENT | FOF_NOCONFIRMATION, nullptr));
+        EXPECT_TRUE(FileExists(kept));
+    }
+    SetCurrentDirectoryW(TestFolder().c_str());
 }
