@@ -1,59 +1,20 @@
 // Linked in front of the wizard's own objects: a random user in the window thread. At each turn it looks at
 // what the last event has led to, and posts another one. Being inside, it reads every control for next to
 // nothing, and knows the answers that the pages have stored.
-#include "app/Names.h"
-#include "app/Text.h"
-#include "app/modLocations.h"
 #include "endurance/BadText.h"
 #include "endurance/KnownMessages.h"
 #include "endurance/Monkey.h"
+#include "endurance/MonkeyAnswers.h"
 #include "ftw/FtwPages.h"
-#include "ndw/NdwPages.h"
-#include "ndw/modDcp.h"
-#include "win/Handles.h"
 
 #include <algorithm>
-#include <cwctype>
 #include <random>
 #include <string>
 #include <vector>
 
 namespace {
 
-// How a page's inputs, in their order, become answers.
-enum class Stores { One, Set, Typed, TypedAsItIs };
-struct Row {
-    const wchar_t* heading;
-    Stores how;
-    std::int16_t* index;
-    std::wstring* texts[2];
-    const wchar_t* skippedTo; // page after Skip, which stores nothing
-};
-
-NdwAnswers& answers = ndwSession.answers;
-constexpr wchar_t kNamePage[] = L"Configuration Name", kLastPage[] = L"Finished";
-
 // clang-format off
-const Row kRows[] = {
-    {L"COM Port",                  Stores::One,         &answers.portIndex,               {}, nullptr},
-    {L"Baud Rate",                 Stores::One,         &answers.baudIndex,               {}, nullptr},
-    {L"Data Format",               Stores::One,         &answers.dataFormatIndex,         {}, nullptr},
-    {L"ASCII Character Format",    Stores::One,         &answers.characterFormatIndex,    {}, nullptr},
-    {L"Flow Control",              Stores::One,         &answers.flowControlIndex,        {}, nullptr},
-    {L"End of Block",              Stores::One,         &answers.endOfBlockIndex,         {}, nullptr},
-    {L"Transmit Prefix",           Stores::Set,         &answers.prefixChoice,            {}, nullptr},
-    {L"Transmit Suffix",           Stores::Set,         &answers.suffixChoice,            {}, nullptr},
-    {L"Line Removal",              Stores::Typed,       nullptr, {&answers.removedLines},     nullptr},
-    {L"Filter Options",            Stores::Set,         &answers.filterOptions,           {}, nullptr},
-    {L"Transmit Trigger",          Stores::One,         &answers.transmitTriggerIndex,    {}, nullptr},
-    {L"Receive File Name",         Stores::Typed,       &answers.receiveNamingIndex,
-                                             {&answers.receivePrefix, &answers.receiveExtension}, nullptr},
-    {L"End of Reception",          Stores::One,         &answers.receiveTerminationIndex, {}, nullptr},
-    {kNamePage,                    Stores::TypedAsItIs, nullptr, {&answers.name},             nullptr},
-    {L"Specify CNC file location", Stores::TypedAsItIs, nullptr, {&ftwSession.location.folders},
-                                                                        L"Configure Communication Options"},
-};
-
 constexpr UINT kCaretTimer = 0x118, kDpiChanged = 0x2E0;
 constexpr UINT kSystemMessages[] = {
     WM_SETTINGCHANGE, WM_SYSCOLORCHANGE, WM_THEMECHANGED, WM_FONTCHANGE, WM_DISPLAYCHANGE, WM_TIMECHANGE,
@@ -66,7 +27,6 @@ constexpr WORD kKeys[] = {
 // clang-format on
 
 constexpr int kNextId = 100, kBackId = 101, kHeadingId = 120, kBoxTextId = 65535;
-constexpr int kIconOffset = 114, kIconEnd = 178;
 
 struct Control {
     HWND window;
@@ -79,15 +39,6 @@ struct Control {
         return IsButton() ? type != BS_OWNERDRAW && type != BS_PUSHBUTTON && type != BS_DEFPUSHBUTTON
                           : kind == L"Edit" || kind == L"ListBox" || kind == L"ComboBox";
     }
-};
-
-// What a page shows.
-struct Shown {
-    std::wstring heading;
-    std::vector<std::wstring> texts;
-    int index = -1;          // of a list
-    int option = -1;         // the first one that is set
-    int set = 0, places = 0; // check boxes or options
 };
 
 std::wstring TextOf(HWND window) {
@@ -266,56 +217,15 @@ class Monkey {
     void CheckAnswers() {
         Shown now = WhatIsShown();
         if (now.heading != page_.heading) {
-            const bool created = page_.heading == kNamePage && now.heading == kLastPage;
-            for (const Row& row : kRows) {
-                const bool skipped = row.skippedTo && now.heading == row.skippedTo;
-                if (page_.heading == row.heading && !skipped && !created) Compare(row, page_, true);
-                if (now.heading == row.heading) Compare(row, now, false);
+            std::wstring wrong = WrongAnswer(page_, now);
+            if (MadeConfiguration(page_, now)) {
+                ++notes_.created;
+                if (wrong.empty()) wrong = WrongFile(page_.texts.at(0));
             }
-            if (created) CheckFile();
+            if (!wrong.empty()) Fail(wrong);
             if (now.heading == L"Confirm CNC file location") NoteLocation();
         }
         page_ = std::move(now);
-    }
-
-    void Compare(const Row& row, const Shown& shown, bool left) {
-        const int chosen = row.how == Stores::Set ? shown.set : shown.places ? shown.option : shown.index;
-        if (row.index && *row.index != std::max(chosen, 0))
-            Fail(std::wstring(row.heading) + L" shows " + std::to_wstring(chosen) + L", stored is " +
-                 std::to_wstring(*row.index));
-        for (std::size_t i = 0; i < 2 && row.texts[i]; ++i) {
-            // What cannot be stored leaves the answer as it was.
-            const std::wstring& typed = shown.texts.at(i);
-            const bool plain = typed.size() <= (i == 0 ? kCodesLength : 3) &&
-                               std::all_of(typed.begin(), typed.end(),
-                                           [](wchar_t c) { return std::iswalnum(c) && c < 128; });
-            if (left && row.how == Stores::Typed && !plain) continue;
-            if (*row.texts[i] != typed)
-                Fail(std::wstring(row.heading) + L" shows \"" + typed + L"\", stored is \"" + *row.texts[i] +
-                     L"\"");
-        }
-    }
-
-    // The file that has just been made is that of the answers, byte for byte but for the icon.
-    void CheckFile() {
-        ++notes_.created;
-        std::vector<unsigned char> bytes(2 * kDcpFileSize);
-        DWORD size = 0;
-        const std::wstring path = ConfigurationFile(TrimBlanks(page_.texts.at(0)));
-        const win::UniqueKernelHandle file(
-            CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
-        ReadFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &size, nullptr);
-        DcpRecords records;
-        SetDcpHeaderDefaults(records.header);
-        SetDcpRecord4Defaults(records.record4);
-        FillDcpRecords(records, answers, L"");
-        PrepareForWriting(records);
-        const auto expected = DcpBytes(records, ToAnsiByte);
-        const auto same = [&](int from, int to) {
-            return std::equal(expected.begin() + from, expected.begin() + to, bytes.begin() + from);
-        };
-        if (size != kDcpFileSize || !same(0, kIconOffset) || !same(kIconEnd, kDcpFileSize))
-            Fail(L"a file of " + std::to_wstring(size) + L" bytes differs from the answers");
     }
 
     void NoteLocation() {
