@@ -4,6 +4,7 @@
 #include "app/StartUp.h"
 #include "ftw/FtwPages.h"
 #include "ndw/NdwPages.h"
+#include "tests/e2e/WalksFile.h"
 #include "tests/ndw/DcpByHand.h"
 #include "tests/support/DemoSuite.h"
 #include "tests/support/WizardDriver.h"
@@ -17,7 +18,6 @@
 #include <map>
 #include <optional>
 #include <ostream>
-#include <sstream>
 
 namespace {
 
@@ -341,34 +341,8 @@ Text Walk::Replaced(Text text) const {
     return text;
 }
 
-struct Line {
-    int number;
-    Text text;
-};
-using Walks = std::map<Text, std::vector<Line>>;
-
-// "== name" begins a walk; one in brackets is a part of others. Lines that begin with "#" are remarks.
-const Walks& AllWalks() {
-    static const Walks all = [] {
-        Walks walks;
-        Text name;
-        std::istringstream lines(FileBytes(TestFolder() + L"..\\..\\tests\\e2e\\walks.txt"));
-        int number = 0;
-        for (std::string bytes; std::getline(lines, bytes);) {
-            const Text text = FromUtf8(bytes);
-            ++number;
-            if (text.starts_with(L"== "))
-                name = text.substr(3);
-            else if (!text.empty() && text.front() != L'#')
-                walks[name].push_back({number, text});
-        }
-        return walks;
-    }();
-    return all;
-}
-
 void Walk::Follow(const Text& section) {
-    for (const Line& line : AllWalks().at(section)) {
+    for (const WalkLine& line : AllWalks().at(section)) {
         SCOPED_TRACE("line " + std::to_string(line.number) + ": " + Utf8(line.text));
         const Text word = line.text.substr(0, line.text.find(L' '));
         const auto verb = std::find_if(std::begin(kVerbs), std::end(kVerbs),
