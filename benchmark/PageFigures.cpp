@@ -1,5 +1,6 @@
 #include "app/StartUp.h"
 #include "app/modLocations.h"
+#include "benchmark/BareWindow.h"
 #include "benchmark/Clock.h"
 #include "benchmark/Figures.h"
 #include "benchmark/SheetWizard.h"
@@ -71,36 +72,67 @@ void TourOfSheet(Changes& changes) {
     });
 }
 
+// The least that a page change of the wizard may be: the controls of its first page, two of them with another
+// text.
+void TourOfControls(Changes& changes) {
+    WNDCLASSW windowClass{};
+    windowClass.lpfnWndProc = DefWindowProcW;
+    windowClass.hbrBackground = GetSysColorBrush(COLOR_WINDOW);
+    windowClass.lpszClassName = L"BarePages";
+    RegisterClassW(&windowClass);
+    const HWND window = CreateWindowExW(0, windowClass.lpszClassName, L"Pages", WS_CAPTION | WS_CLIPCHILDREN,
+                                        100, 100, 500, 350, nullptr, nullptr, nullptr, nullptr);
+    AddControls(window);
+    ShowWindow(window, SW_SHOWNORMAL);
+    const HWND heading = GetWindow(window, GW_CHILD), text = GetWindow(heading, GW_HWNDNEXT);
+    Tour(window, kSheetPages, changes, [&](bool forward) {
+        SetWindowTextW(heading, forward ? L"Next" : L"Back");
+        SetWindowTextW(text, forward ? L"The text of the next page" : L"The text of the page before");
+    });
+    DestroyWindow(window);
+}
+
+struct Row {
+    const char* figure;
+    const Changes& ours;
+    const char* peer;
+    const Changes& theirs;
+    std::vector<double> Changes::*times;
+    double wanted = 0; // of the 95th percentiles
+};
+
+void Print(const Row& row) {
+    const std::string figure = row.figure;
+    const std::vector<double>&ours = row.ours.*row.times, &theirs = row.theirs.*row.times;
+    PrintRatio(figure + ", 95th percentile", row.peer, Percentile95(ours), Percentile95(theirs), "ms",
+               row.wanted);
+    PrintRatio(figure + ", median", row.peer, Median(ours), Median(theirs), "ms", 0);
+}
+
 } // namespace
 
 void MeasurePageChange(const Bench& bench) {
     startUp.WizardMode = kNewDevice;
     startUp.WizardTitle = L"Pages";
-    Changes ours, theirs;
+    Changes ours, theirs, least;
     // A tour is many changes: a few of them are as many measurements as the other figures have.
     for (int run = 0; run < (bench.runs + 4) / 5; ++run) {
         TourOfWizard(ours);
         TourOfSheet(theirs);
+        TourOfControls(least);
     }
-    const char* peer = "comctl32 wizard, 20 pages";
-    struct Row {
-        const char* figure;
-        std::vector<double> Changes::*times;
-    };
+    const char* sheet = "comctl32 wizard, 20 pages";
     // clang-format off
-    constexpr Row kRows[] = {
-        {"page change, full redraw",     &Changes::full},
-        {"page change, until painted",   &Changes::shown},
-        {"  of it the button's handler", &Changes::press},
-        {"  redraw of the whole window", &Changes::redraw},
-        {"first visit of a page",        &Changes::first},
+    const Row rows[] = {
+        {"page change, full redraw",      ours,  sheet,           theirs, &Changes::full, 0.5},
+        {"  the same, bare controls",     least, sheet,           theirs, &Changes::full},
+        {"  the same",                    ours,  "bare controls", least,  &Changes::full},
+        {"page change, until painted",    ours,  sheet,           theirs, &Changes::shown},
+        {"  of it the button's handler",  ours,  sheet,           theirs, &Changes::press},
+        {"  redraw of the whole window",  ours,  sheet,           theirs, &Changes::redraw},
+        {"first visit of a page",         ours,  sheet,           theirs, &Changes::first},
     };
     // clang-format on
-    for (const Row& row : kRows) {
-        const std::string figure = row.figure;
-        const double wanted = row.times == &Changes::full ? 0.5 : 0;
-        PrintRatio(figure + ", 95th percentile", peer, Percentile95(ours.*row.times),
-                   Percentile95(theirs.*row.times), "ms", wanted);
-        PrintRatio(figure + ", median", peer, Median(ours.*row.times), Median(theirs.*row.times), "ms", 0);
-    }
+    for (const Row& row : rows)
+        Print(row);
 }

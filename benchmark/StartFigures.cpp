@@ -94,8 +94,10 @@ void MeasureStart(const Bench& bench) {
         for (const Runs& peer : theirs)
             PrintStart(wizard, peer);
     // What no program with these controls gets below.
-    theirs[0].wanted = 0;
-    PrintStart(theirs[1], theirs[0]);
+    for (const std::size_t peer : {0, 2, 3}) {
+        theirs[peer].wanted = 0;
+        PrintStart(theirs[1], theirs[peer]);
+    }
     PrintMemory(theirs[1], theirs[0], 0);
     for (const Runs& wizard : ours)
         PrintMemory(wizard, theirs[0], 1.5);
