@@ -3,40 +3,35 @@
 namespace win {
 namespace {
 
-using UniqueMemoryDc = Unique<HDC, DeleteDC>;
-
-SIZE StoredSize(HBITMAP bitmap) {
-    BITMAP info = {};
-    if (GetObjectW(bitmap, sizeof info, &info) == 0) return {};
-    return {info.bmWidth, info.bmHeight};
-}
-
-template <class Handle> Handle Load(int number, UINT kind, int pixels) {
-    return static_cast<Handle>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(number), kind, pixels,
-                                          pixels, LR_DEFAULTCOLOR));
+const BITMAPINFOHEADER* FindBitmap(int number) {
+    const HRSRC resource = FindResourceW(nullptr, MAKEINTRESOURCEW(number), RT_BITMAP);
+    return resource ? static_cast<const BITMAPINFOHEADER*>(LockResource(LoadResource(nullptr, resource)))
+                    : nullptr;
 }
 
 } // namespace
 
-Picture::Picture(int number, int dpi)
-    : bitmap_(Load<HBITMAP>(number + PictureStep(dpi), IMAGE_BITMAP, 0)), stored_(StoredSize(bitmap_.Get())) {
+Picture::Picture(int number, int dpi) : stored_(FindBitmap(number + PictureStep(dpi))) {
+    if (!stored_) return;
     const int drawnFor = kPictureDpi[PictureStep(dpi)];
-    size_ = {MulDiv(stored_.cx, dpi, drawnFor), MulDiv(stored_.cy, dpi, drawnFor)};
+    size_ = {MulDiv(stored_->biWidth, dpi, drawnFor), MulDiv(stored_->biHeight, dpi, drawnFor)};
 }
 
 void Picture::Draw(HDC dc, int x, int y) const {
-    const UniqueMemoryDc source(CreateCompatibleDC(dc));
-    if (!bitmap_ || !source) return;
-    const HGDIOBJ before = SelectObject(source.Get(), bitmap_.Get());
+    if (!stored_) return;
+    const auto* colours = reinterpret_cast<const BYTE*>(stored_) + stored_->biSize;
+    const BYTE* pixels = colours + stored_->biClrUsed * sizeof(RGBQUAD);
     const int mode = SetStretchBltMode(dc, HALFTONE);
     SetBrushOrgEx(dc, 0, 0, nullptr); // HALFTONE asks for it
-    StretchBlt(dc, x, y, size_.cx, size_.cy, source.Get(), 0, 0, stored_.cx, stored_.cy, SRCCOPY);
+    StretchDIBits(dc, x, y, size_.cx, size_.cy, 0, 0, stored_->biWidth, stored_->biHeight, pixels,
+                  reinterpret_cast<const BITMAPINFO*>(stored_), DIB_RGB_COLORS, SRCCOPY);
     SetStretchBltMode(dc, mode);
-    SelectObject(source.Get(), before);
 }
 
 IconPicture::IconPicture(int number, int pixels)
-    : icon_(Load<HICON>(number, IMAGE_ICON, pixels)), pixels_(pixels) {}
+    : icon_(static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(number), IMAGE_ICON,
+                                          pixels, pixels, LR_DEFAULTCOLOR))),
+      pixels_(pixels) {}
 
 void IconPicture::Draw(HDC dc, int x, int y) const {
     if (icon_) DrawIconEx(dc, x, y, icon_.Get(), pixels_, pixels_, 0, nullptr, DI_NORMAL);

@@ -20,12 +20,13 @@ constexpr int PictureStep(int dpi) {
     return 3;
 }
 
-// A bitmap without transparency. One that cannot be loaded has no size and draws nothing: no page
-// depends on seeing a picture.
+// A bitmap of up to 8 bits with its colours counted (biClrUsed), without transparency. It is drawn from where
+// the program's file is mapped: nothing is loaded or kept. One that is not there has no size and draws
+// nothing: no page depends on seeing a picture.
 class Picture {
   public:
     Picture() = default;
-    // Loads only the bitmap for `dpi`. It is stretched when there is none of just this resolution.
+    // The bitmap for `dpi`. It is stretched when there is none of just this resolution.
     Picture(int number, int dpi);
 
     // In pixels, as drawn.
@@ -34,8 +35,7 @@ class Picture {
     void Draw(HDC dc, int x, int y) const;
 
   private:
-    UniqueBitmap bitmap_;
-    SIZE stored_ = {};
+    const BITMAPINFOHEADER* stored_ = nullptr; // in the resource; its colours and pixels follow
     SIZE size_ = {};
 };
 

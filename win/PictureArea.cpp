@@ -14,8 +14,7 @@ bool NamedPicture::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT
 }
 
 void PictureArea::Draw(const DRAWITEMSTRUCT& item) {
-    if (!picture_) picture_.emplace(resource_, Dpi());
-    picture_->Draw(item.hDC, item.rcItem.left, item.rcItem.top);
+    Picture(resource_, Dpi()).Draw(item.hDC, item.rcItem.left, item.rcItem.top);
 }
 
 void IconArea::Draw(const DRAWITEMSTRUCT& item) {

@@ -1,7 +1,6 @@
 #pragma once
 
-// Labels that show a picture of the program's resources. Decoded at the first painting, kept to the end.
-// Their names are for screen readers.
+// Labels that show a picture of the program's resources. Their names are for screen readers.
 
 #include "win/Control.h"
 #include "win/Picture.h"
@@ -29,7 +28,6 @@ class PictureArea : public NamedPicture {
 
   private:
     int resource_;
-    std::optional<Picture> picture_;
 };
 
 // An icon as large as the area, on the window's background.
