@@ -72,24 +72,59 @@ void TourOfSheet(Changes& changes) {
     });
 }
 
-// The least that a page change of the wizard may be: the controls of its first page, two of them with another
-// text.
+// The least that a page change of the wizard may be: the controls of its first page and, as on most pages,
+// the step and three options, which get other texts and stand below a text of another height.
+class BarePages {
+  public:
+    BarePages() {
+        WNDCLASSW windowClass{};
+        windowClass.lpfnWndProc = DefWindowProcW;
+        windowClass.hbrBackground = GetSysColorBrush(COLOR_WINDOW);
+        windowClass.lpszClassName = L"BarePages";
+        RegisterClassW(&windowClass);
+        window_ = CreateWindowExW(0, windowClass.lpszClassName, L"Pages", WS_CAPTION | WS_CLIPCHILDREN, 100,
+                                  100, 500, 350, nullptr, nullptr, nullptr, nullptr);
+        AddControls(window_);
+        heading_ = GetWindow(window_, GW_CHILD);
+        text_ = GetWindow(heading_, GW_HWNDNEXT);
+        step_ = Add(L"Static", 0, 8);
+        for (HWND& option : options_)
+            option = Add(L"Button", BS_AUTORADIOBUTTON, 200);
+        ShowWindow(window_, SW_SHOWNORMAL);
+    }
+    BarePages(const BarePages&) = delete;
+    BarePages& operator=(const BarePages&) = delete;
+    ~BarePages() { DestroyWindow(window_); }
+
+    HWND Window() const { return window_; }
+
+    void Change() {
+        const wchar_t* text = (++page_ & 1) ? L"Another text" : L"A text";
+        int top = 48, height = (page_ & 1) ? 60 : 80;
+        for (const HWND window : {step_, heading_, text_})
+            SetWindowTextW(window, text);
+        constexpr UINT kQuiet = SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOREDRAW;
+        SetWindowPos(text_, nullptr, 100, top, 380, height, kQuiet);
+        top += height;
+        for (const HWND option : options_) {
+            SetWindowTextW(option, text);
+            SetWindowPos(option, nullptr, 100, top += 19, 380, 16, kQuiet);
+        }
+    }
+
+  private:
+    HWND Add(const wchar_t* className, DWORD style, int top) const {
+        return CreateWindowExW(0, className, L"", WS_CHILD | WS_VISIBLE | style, 400, top, 72, 14, window_,
+                               nullptr, nullptr, nullptr);
+    }
+
+    HWND window_ = nullptr, heading_ = nullptr, text_ = nullptr, step_ = nullptr, options_[3] = {};
+    int page_ = 0;
+};
+
 void TourOfControls(Changes& changes) {
-    WNDCLASSW windowClass{};
-    windowClass.lpfnWndProc = DefWindowProcW;
-    windowClass.hbrBackground = GetSysColorBrush(COLOR_WINDOW);
-    windowClass.lpszClassName = L"BarePages";
-    RegisterClassW(&windowClass);
-    const HWND window = CreateWindowExW(0, windowClass.lpszClassName, L"Pages", WS_CAPTION | WS_CLIPCHILDREN,
-                                        100, 100, 500, 350, nullptr, nullptr, nullptr, nullptr);
-    AddControls(window);
-    ShowWindow(window, SW_SHOWNORMAL);
-    const HWND heading = GetWindow(window, GW_CHILD), text = GetWindow(heading, GW_HWNDNEXT);
-    Tour(window, kSheetPages, changes, [&](bool forward) {
-        SetWindowTextW(heading, forward ? L"Next" : L"Back");
-        SetWindowTextW(text, forward ? L"The text of the next page" : L"The text of the page before");
-    });
-    DestroyWindow(window);
+    BarePages pages;
+    Tour(pages.Window(), kSheetPages, changes, [&](bool) { pages.Change(); });
 }
 
 struct Row {
