@@ -30,10 +30,10 @@ constexpr wchar_t kCncFolder[] = L"C:\\CNC faults";
 // Selects what makes the wizard do more: the first sample, a folder to be made.
 void AskForMore(const Walker& walker, const std::wstring& heading) {
     if (heading.starts_with(L"Import Sample"))
-        for (HWND list : ChildrenOf(walker.Main(), L"ListBox"))
+        for (HWND list : ControlsOf(walker.Main(), L"ListBox"))
             Ask(list, LB_SETSEL, TRUE, 0);
     if (heading == L"Specify CNC file location")
-        for (HWND box : ChildrenOf(walker.Main(), L"Edit"))
+        for (HWND box : ControlsOf(walker.Main(), L"Edit"))
             Ask(box, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(kCncFolder));
 }
 

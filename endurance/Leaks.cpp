@@ -142,7 +142,7 @@ void PickIcon(Patient& patient) {
 void Import(Patient& patient) {
     patient.ClickTo(&Walker::Next, L"Import Sample CNC Configuration Files");
     DeleteFileW((patient.Suite().Settings() + L"Sample.dcp").c_str());
-    for (HWND list : ChildrenOf(patient.Walk().Main(), L"ListBox"))
+    for (HWND list : ControlsOf(patient.Walk().Main(), L"ListBox"))
         Ask(list, LB_SETSEL, TRUE, 0);
     patient.Walk().Press(patient.Walk().Next());
     patient.Walk().Answer();

@@ -6,6 +6,7 @@
 #include "endurance/Monkey.h"
 #include "endurance/MonkeyAnswers.h"
 #include "ftw/FtwPages.h"
+#include "tests/support/Windows.h"
 
 #include <algorithm>
 #include <random>
@@ -41,18 +42,6 @@ struct Control {
     }
 };
 
-std::wstring TextOf(HWND window) {
-    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
-    return text;
-}
-
-std::wstring ClassOf(HWND window) {
-    wchar_t name[64] = L"";
-    GetClassNameW(window, name, 64);
-    return name;
-}
-
 BOOL CALLBACK Collect(HWND window, LPARAM windows) {
     reinterpret_cast<std::vector<HWND>*>(windows)->push_back(window);
     return TRUE;
@@ -66,7 +55,7 @@ std::vector<HWND> WindowsOfThread() {
 }
 
 // Shown or not; the buttons' types are still to be read.
-std::vector<Control> ControlsOf(HWND window) {
+std::vector<Control> AllControlsOf(HWND window) {
     std::vector<HWND> children;
     EnumChildWindows(window, Collect, reinterpret_cast<LPARAM>(&children));
     std::vector<Control> controls;
@@ -150,7 +139,7 @@ class Monkey {
 
     // Listing the windows costs as much as all the rest; new ones come with a page.
     void Look() {
-        if (all_.empty() || TextOf(Of(kHeadingId)) != page_.heading) all_ = ControlsOf(main_);
+        if (all_.empty() || TextOf(Of(kHeadingId)) != page_.heading) all_ = AllControlsOf(main_);
         controls_.clear();
         for (Control control : all_) {
             const auto style = static_cast<DWORD>(GetWindowLongW(control.window, GWL_STYLE));
@@ -173,7 +162,7 @@ class Monkey {
         const bool ofSystem = TextOf(modal).find(L"Wine") != std::wstring::npos; // from the window's menu
         if (label && !ofSystem && !IsKnownMessage(text)) Fail(L"an unexpected message: " + text);
         std::vector<HWND> buttons;
-        for (const Control& control : ControlsOf(modal))
+        for (const Control& control : AllControlsOf(modal))
             if (control.IsButton() && IsWindowVisible(control.window) && IsWindowEnabled(control.window))
                 buttons.push_back(control.window);
         notes_.waiting[TextOf(modal).copy(notes_.waiting, 511)] = L'\0';

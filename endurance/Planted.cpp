@@ -44,7 +44,7 @@ void LoadWithin(DWORD wizard) {
 
 // Follows every link of the page: they are the buttons that the wizard draws itself.
 void FollowLinks(const Walker& walker) {
-    for (HWND child : ChildrenOf(walker.Main(), L"Button")) {
+    for (HWND child : ControlsOf(walker.Main(), L"Button")) {
         if ((GetWindowLongW(child, GWL_STYLE) & BS_TYPEMASK) != BS_OWNERDRAW) continue;
         walker.Press(child);
         for (int i = 0; i < 200 && !IsWindowEnabled(walker.Main()) && !walker.Modal(); ++i)

@@ -32,10 +32,6 @@ std::wstring FromEnvironment(const wchar_t* name) {
 
 bool Exists(const std::wstring& path) { return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES; }
 
-void Copy(const std::wstring& from, const std::wstring& to) {
-    if (!CopyFileW(from.c_str(), to.c_str(), FALSE)) Fail(L"cannot make " + to);
-}
-
 void ReplaceProgram(const DemoSuite& suite, const wchar_t* variable) {
     Copy(FromEnvironment(variable), suite.Folder() + L"VWizard.exe");
 }

@@ -12,7 +12,6 @@ class DemoSuite;
 // The value of an environment variable, "" when it is not set.
 std::wstring FromEnvironment(const wchar_t* name);
 bool Exists(const std::wstring& path);
-void Copy(const std::wstring& from, const std::wstring& to); // over what is there; throws
 
 // Puts the program that the environment variable names in the wizard's place.
 void ReplaceProgram(const DemoSuite& suite, const wchar_t* variable);

@@ -53,7 +53,7 @@ Use UseIn(std::wstring text) {
 
 std::map<int, Use> PortUses(const Walker& walker) {
     std::map<int, Use> uses;
-    for (HWND list : ChildrenOf(walker.Main(), L"ComboBox"))
+    for (HWND list : ControlsOf(walker.Main(), L"ComboBox"))
         for (WPARAM i = 0; i < Ask(list, CB_GETCOUNT); ++i) {
             std::wstring item(Ask(list, CB_GETLBTEXTLEN, i) + 1, L'\0');
             item.resize(Ask(list, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(item.data())));

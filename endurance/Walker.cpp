@@ -8,16 +8,10 @@
 
 namespace {
 
-constexpr UINT kAnswerTime_ms = 30000;
 constexpr DWORD kPatience_ms = 60000;
 constexpr wchar_t kFormClass[] = L"VWizardForm";
 constexpr int kNextId = 100, kBackId = 101, kHeadingId = 120, kBoxTextId = 65535;
 constexpr int kMostVisits = 4; // of one page without getting on
-
-BOOL CALLBACK Collect(HWND window, LPARAM data) {
-    if (IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(data)->push_back(window);
-    return TRUE;
-}
 
 bool IsGone(HWND window) { return !IsWindow(window) || !IsWindowVisible(window); }
 
@@ -32,33 +26,6 @@ bool Journey::Told(std::wstring_view beginning) const {
                        [&](const std::wstring& text) { return text.starts_with(beginning); });
 }
 
-DWORD_PTR Ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    DWORD_PTR result = 0;
-    if (!SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, kAnswerTime_ms, &result) &&
-        IsWindow(window))
-        Fail(L"no answer to message " + std::to_wstring(message) + L" of " + ClassOf(window));
-    return result;
-}
-
-std::wstring ClassOf(HWND window) {
-    wchar_t name[256] = L"";
-    GetClassNameW(window, name, 256);
-    return name;
-}
-
-std::wstring TextOf(HWND window) {
-    std::wstring text(Ask(window, WM_GETTEXTLENGTH) + 1, L'\0');
-    text.resize(Ask(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data())));
-    return text;
-}
-
-std::vector<HWND> ChildrenOf(HWND window, const wchar_t* className) {
-    std::vector<HWND> children;
-    EnumChildWindows(window, Collect, reinterpret_cast<LPARAM>(&children));
-    if (className) std::erase_if(children, [&](HWND child) { return ClassOf(child) != className; });
-    return children;
-}
-
 void Walker::Press(HWND button) const {
     SendNotifyMessageW(button, BM_CLICK, 0, 0);
     Ask(main_, WM_NULL);
@@ -67,7 +34,7 @@ void Walker::Press(HWND button) const {
 std::wstring Walker::Heading() const { return TextOf(GetDlgItem(main_, kHeadingId)); }
 
 HWND Walker::Button(const wchar_t* caption) const {
-    for (HWND button : ChildrenOf(main_, L"Button"))
+    for (HWND button : ControlsOf(main_, L"Button"))
         if (TextOf(button) == caption) return button;
     return nullptr;
 }
@@ -81,20 +48,9 @@ HWND Walker::Visible(int id) const {
 HWND Walker::Next() const { return Visible(kNextId) ? Visible(kNextId) : Visible(IDCANCEL); }
 HWND Walker::Back() const { return Visible(kBackId); }
 
-std::vector<HWND> Walker::Windows() const {
-    std::vector<HWND> windows;
-    EnumWindows(Collect, reinterpret_cast<LPARAM>(&windows));
-    std::erase_if(windows, [this](HWND window) {
-        DWORD owner = 0;
-        GetWindowThreadProcessId(window, &owner);
-        return owner != wizard_.ProcessId();
-    });
-    return windows;
-}
-
 HWND Walker::Modal() const {
     if (main_ && IsWindowEnabled(main_)) return nullptr;
-    for (HWND window : Windows())
+    for (HWND window : WindowsOf(wizard_.ProcessId()))
         if (window != main_ && IsWindowEnabled(window) && ClassOf(window) != kFormClass) return window;
     return nullptr;
 }
@@ -105,7 +61,7 @@ std::wstring Walker::AnswerModal(HWND modal, int wanted) const {
     HWND button = nullptr;
     for (const int id : {wanted, IDYES, IDOK})
         if (HWND found = GetDlgItem(modal, id); found && IsWindowVisible(found) && !button) button = found;
-    for (HWND child : ChildrenOf(modal, L"Button"))
+    for (HWND child : ControlsOf(modal, L"Button"))
         if (!button) button = child;
     SendNotifyMessageW(button ? button : modal, button ? BM_CLICK : WM_CLOSE, 0, 0);
     wizard_.Until([modal] { return IsGone(modal); }, L"an end of: " + text);
@@ -116,7 +72,7 @@ bool Walker::WaitUntilReady() {
     for (const DWORD begin = GetTickCount(); wizard_.IsRunning(); Sleep(1)) {
         if (!main_ || !IsWindow(main_)) {
             main_ = nullptr;
-            for (HWND window : Windows())
+            for (HWND window : WindowsOf(wizard_.ProcessId()))
                 if (ClassOf(window) == kFormClass) main_ = window;
         }
         if (Modal()) return true;
@@ -131,7 +87,7 @@ bool Walker::WaitUntilReady() {
 }
 
 void Walker::TypeName() const {
-    for (HWND box : ChildrenOf(main_, L"Edit"))
+    for (HWND box : ControlsOf(main_, L"Edit"))
         Ask(box, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
 }
 

@@ -4,6 +4,7 @@
 // Next and answers every question. It knows each message that the program has a reason to show; any other
 // one, a control that does not answer, a page that cannot be left and a bad exit code are its trouble.
 
+#include "tests/support/Windows.h"
 #include "tests/support/WizardDriver.h"
 
 #include <functional>
@@ -54,7 +55,6 @@ class Walker {
     HWND Button(const wchar_t* caption) const;
 
   private:
-    std::vector<HWND> Windows() const; // of the wizard
     HWND Visible(int id) const;
     void LeavePage(Journey& journey);
 
@@ -67,10 +67,3 @@ class Walker {
 // A whole run of a suite's wizard, from its start to its end.
 class DemoSuite;
 Journey WalkWhole(const DemoSuite& suite, const wchar_t* arguments);
-
-// Visible controls in their order, all or of one class.
-std::vector<HWND> ChildrenOf(HWND window, const wchar_t* className = nullptr);
-std::wstring ClassOf(HWND window);
-std::wstring TextOf(HWND window);
-// SendMessage to another process; throws when it does not answer for long.
-DWORD_PTR Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);

@@ -7,6 +7,7 @@
 #include "tests/e2e/WalksFile.h"
 #include "tests/ndw/DcpByHand.h"
 #include "tests/support/DemoSuite.h"
+#include "tests/support/Windows.h"
 #include "tests/support/WizardDriver.h"
 #include "wizard/frmWizard.h"
 
@@ -21,9 +22,6 @@
 
 namespace {
 
-using driver::Ask;
-using driver::Notify;
-using driver::TextOf;
 using Text = std::wstring;
 
 struct Walk {
@@ -247,7 +245,7 @@ const Verb kVerbs[] = {
     {L"icons",     [](Walk& w, const Text&, const Text&) { w.suite.AddIcons(); }},
     {L"samples",   [](Walk& w, const Text&, const Text&) { w.suite.AddSamples(); }},
     {L"write",     [](Walk&, const Text& a, const Text& b) { WriteFileBytes(a, Utf8(b)); }},
-    {L"copy",      [](Walk&, const Text& a, const Text& b) { EXPECT_TRUE(CopyFileW(a.c_str(), b.c_str(), FALSE)); }},
+    {L"copy",      [](Walk&, const Text& a, const Text& b) { Copy(a, b); }},
     {L"make",      [](Walk& w, const Text& a, const Text& b) { WriteFileBytes(w.suite.Settings() + a + L".DCP", DcpByHand(Utf8(b)).Bytes()); }},
     {L"spoil",     [](Walk& w, const Text& a, const Text& b) { w.lock = Spoil(a, kSpoilt.at(b)); }},
     {L"do",        [](Walk& w, const Text& a, const Text&) { w.Follow(a); }},

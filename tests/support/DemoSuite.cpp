@@ -30,10 +30,6 @@ std::wstring BuildFolder() {
     return program.substr(0, program.rfind(L'\\') + 1);
 }
 
-void Copy(const std::wstring& from, const std::wstring& to) {
-    if (!CopyFileW(from.c_str(), to.c_str(), FALSE)) Fail(L"cannot copy " + from + L" to " + to);
-}
-
 // The value of the line that begins with `key`, from `from` on; moves `from` behind it.
 std::wstring Take(const std::string& log, const std::string& key, std::size_t& from) {
     const std::size_t start = log.find(key, from) + key.size();

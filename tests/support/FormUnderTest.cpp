@@ -51,12 +51,6 @@ std::vector<HWND> FormUnderTest::VisibleControls() const {
     return controls;
 }
 
-std::wstring ClassOf(HWND window) {
-    wchar_t name[64] = L"";
-    GetClassNameW(window, name, static_cast<int>(std::size(name)));
-    return name;
-}
-
 bool IsTabStop(HWND control) {
     const LONG style = GetWindowLongW(control, GWL_STYLE);
     return (style & WS_TABSTOP) && !(style & WS_DISABLED);

@@ -1,4 +1,5 @@
 #pragma once
+#include "tests/support/Windows.h"
 #include "wizard/frmWizard.h"
 
 #include <vector>
@@ -20,7 +21,6 @@ class FormUnderTest {
     frmWizard form;
 };
 
-std::wstring ClassOf(HWND window);
 // What a screen reader is told.
 struct Spoken {
     std::wstring name;

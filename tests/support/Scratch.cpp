@@ -90,6 +90,10 @@ void WriteFileBytes(const std::wstring& path, std::string_view bytes) {
     if (!file || written != bytes.size()) Fail(L"cannot write " + path);
 }
 
+void Copy(const std::wstring& from, const std::wstring& to) {
+    if (!CopyFileW(from.c_str(), to.c_str(), FALSE)) Fail(L"cannot copy " + from + L" to " + to);
+}
+
 std::string Utf8(std::wstring_view text) {
     const int size = static_cast<int>(text.size());
     std::string bytes(text.size() * 3, '\0');

@@ -18,6 +18,7 @@
 std::vector<std::wstring> FileNames(const std::wstring& folder, const wchar_t* pattern = L"*"); // sorted
 std::string FileBytes(const std::wstring& path);
 void WriteFileBytes(const std::wstring& path, std::string_view bytes);
+void Copy(const std::wstring& from, const std::wstring& to); // over what is there
 
 std::string Utf8(std::wstring_view text);
 std::wstring FromUtf8(std::string_view bytes);

@@ -1,70 +1,17 @@
 #include "tests/support/WizardDriver.h"
 
 #include "tests/support/DemoSuite.h"
-
-#include <stdexcept>
-
-using driver::Ask;
-using driver::TextOf;
+#include "tests/support/Windows.h"
 
 namespace {
 
 constexpr DWORD kPatience = 20000; // milliseconds for one step
-constexpr UINT kAnswerTime = 10000;
 constexpr int kHeadingId = 120;
 constexpr int kBoxText = 65535; // the id of a message box's text
 
-std::wstring ClassOf(HWND window) {
-    std::wstring name(256, L'\0');
-    name.resize(static_cast<std::size_t>(GetClassNameW(window, name.data(), 256)));
-    return name;
-}
-
-BOOL CALLBACK Collect(HWND window, LPARAM data) {
-    if (IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(data)->push_back(window);
-    return TRUE;
-}
-
-// Visible controls in tab order.
-std::vector<HWND> ControlsOf(HWND window) {
-    std::vector<HWND> controls;
-    EnumChildWindows(window, Collect, reinterpret_cast<LPARAM>(&controls));
-    return controls;
-}
-
-// Visible top-level windows of one process: other tests may run in the same prefix.
-std::vector<HWND> WindowsOf(DWORD processId) {
-    std::vector<HWND> windows;
-    EnumWindows(Collect, reinterpret_cast<LPARAM>(&windows));
-    std::erase_if(windows, [processId](HWND window) {
-        DWORD owner = 0;
-        GetWindowThreadProcessId(window, &owner);
-        return owner != processId;
-    });
-    return windows;
-}
-
 } // namespace
 
-DWORD_PTR driver::Ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    DWORD_PTR result = 0;
-    if (!SendMessageTimeoutW(window, message, wParam, lParam, SMTO_ABORTIFHUNG, kAnswerTime, &result))
-        Fail(L"a control did not answer message " + std::to_wstring(message));
-    return result;
-}
-
-std::wstring driver::TextOf(HWND window) {
-    try {
-        std::wstring text(Ask(window, WM_GETTEXTLENGTH) + 1, L'\0');
-        text.resize(Ask(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data())));
-        return text;
-    } catch (const std::runtime_error&) {
-        if (IsWindow(window)) throw;
-        return {};
-    }
-}
-
-void driver::Notify(HWND control, WORD code) {
+void Notify(HWND control, WORD code) {
     const auto id = static_cast<WORD>(GetDlgCtrlID(control));
     Ask(GetParent(control), WM_COMMAND, MAKEWPARAM(id, code), reinterpret_cast<LPARAM>(control));
 }

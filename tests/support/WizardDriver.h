@@ -61,12 +61,5 @@ class WizardDriver {
     HWND window_ = nullptr;
 };
 
-namespace driver {
-
-// SendMessage to a control; throws when it hangs or has gone.
-DWORD_PTR Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
-std::wstring TextOf(HWND window); // "" for a window that has gone
 // Tells the form what a control would tell when a person changed it.
 void Notify(HWND control, WORD code);
-
-} // namespace driver

@@ -1,19 +1,7 @@
 #pragma once
-#include <windows.h>
+#include "tests/support/Windows.h"
 
-#include <string>
-#include <vector>
-
-// Reading and driving the windows of another process.
-
-// The visible top-level windows of process `processId`, the topmost first.
-std::vector<HWND> WindowsOf(DWORD processId);
-
-// The visible child controls of `window`, in tab order.
-std::vector<HWND> ControlsOf(HWND window);
-
-std::wstring ClassOf(HWND window);
-std::wstring TextOf(HWND window);
+// Driving the windows of another process.
 
 // All texts that `window` shows, as one text: it changes when another page is shown.
 std::wstring Contents(HWND window);

@@ -1,0 +1,52 @@
+#include "tests/support/Windows.h"
+
+#include <stdexcept>
+
+namespace {
+
+constexpr UINT kAnswerTime_ms = 30000;
+
+BOOL CALLBACK Collect(HWND window, LPARAM data) {
+    if (IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(data)->push_back(window);
+    return TRUE;
+}
+
+} // namespace
+
+std::vector<HWND> WindowsOf(DWORD processId) {
+    std::vector<HWND> windows;
+    EnumWindows(Collect, reinterpret_cast<LPARAM>(&windows));
+    std::erase_if(windows, [processId](HWND window) {
+        DWORD owner = 0;
+        GetWindowThreadProcessId(window, &owner);
+        return owner != processId;
+    });
+    return windows;
+}
+
+std::vector<HWND> ControlsOf(HWND window, const wchar_t* className) {
+    std::vector<HWND> controls;
+    EnumChildWindows(window, Collect, reinterpret_cast<LPARAM>(&controls));
+    if (className) std::erase_if(controls, [&](HWND control) { return ClassOf(control) != className; });
+    return controls;
+}
+
+std::wstring ClassOf(HWND window) {
+    wchar_t name[64] = L"";
+    GetClassNameW(window, name, static_cast<int>(std::size(name)));
+    return name;
+}
+
+std::wstring TextOf(HWND window) {
+    std::wstring text(Ask(window, WM_GETTEXTLENGTH) + 1, L'\0');
+    text.resize(Ask(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data())));
+    return text;
+}
+
+DWORD_PTR Ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    DWORD_PTR result = 0;
+    if (!SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, kAnswerTime_ms, &result) &&
+        IsWindow(window))
+        throw std::runtime_error("a window does not answer message " + std::to_string(message));
+    return result;
+}

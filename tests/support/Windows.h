@@ -1,0 +1,17 @@
+#pragma once
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+// Reading the windows of any process. Those that have gone answer with nothing; one that hangs throws
+// std::runtime_error.
+
+// The visible top-level windows of a process, the topmost first; other programs may run in the same prefix.
+std::vector<HWND> WindowsOf(DWORD processId);
+// Visible controls in tab order, all or of one class.
+std::vector<HWND> ControlsOf(HWND window, const wchar_t* className = nullptr);
+
+std::wstring ClassOf(HWND window);
+std::wstring TextOf(HWND window);
+DWORD_PTR Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0); // as SendMessage
