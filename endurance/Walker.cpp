@@ -104,7 +104,11 @@ std::wstring Walker::Answer(int wanted) {
 std::wstring Walker::CreateConfiguration() {
     TypeName();
     Press(Next());
-    return Answer();
+    std::wstring told;
+    // Between one window and the next the wizard looks as if it were ready.
+    const auto isOver = [&] { return !(told += Answer()).empty() || Heading() == L"Finished"; };
+    wizard_.Until(isOver, L"a file or a message");
+    return told;
 }
 
 void Walker::Close() {
