@@ -1,6 +1,6 @@
 #!/bin/bash
 # Static checks; each is a function of the sources alone, so what passed once is not checked again.
-#   tools/lint.sh format | cppcheck | tidy
+#   tools/lint.sh format | layers | cppcheck | tidy
 # The debug preset must have been built (its dependency log tells which headers a source includes).
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -12,6 +12,17 @@ done
 sources() { find "${folders[@]}" -name '*.cpp' "$@" | sort; }
 
 check_format() { sources -o -name '*.h' | xargs clang-format --dry-run -Werror; }
+
+# Each folder of the program includes itself and what stands below it; the start alone stands above the wizards.
+check_layers() {
+    local row folder wrong=0
+    for row in "win" "app win" "wizard app win res" "shell wizard app win" "ftw shell wizard app win" "ndw shell wizard app win"; do
+        folder=${row%% *}
+        ! grep -n '#include "' "$folder"/*.cpp "$folder"/*.h | grep -v '^app/modMain.cpp' |
+            grep -vE "#include \"(${row// /|})/" || wrong=1
+    done
+    return $wrong
+}
 
 check_cppcheck() {
     mkdir -p build/cppcheck
