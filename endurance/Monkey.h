@@ -11,6 +11,7 @@ struct MonkeyNotes {
     std::uint32_t seed;         // of this run of the wizard
     HWND window;                // takes kMonkeyTurn; null until the wizard is there
     HWND main;                  // the wizard's own; gone when it is about to end
+    bool browses;               // the page has a button for the shell's own folder dialog
     int events;                 // done so far
     int created;                // configurations
     wchar_t acts[8][64];        // the last events; number n is in row n % 8

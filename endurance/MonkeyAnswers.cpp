@@ -42,7 +42,7 @@ const Row kRows[] = {
                                              {&answers.receivePrefix, &answers.receiveExtension}, nullptr},
     {L"End of Reception",          Stores::One,         &answers.receiveTerminationIndex, {}, nullptr},
     {kNamePage,                    Stores::TypedAsItIs, nullptr, {&answers.name},             nullptr},
-    {L"Specify CNC file location", Stores::TypedAsItIs, nullptr, {&ftwSession.location.folders},
+    {kLocationPage,                Stores::TypedAsItIs, nullptr, {&ftwSession.location.folders},
                                                                         L"Configure Communication Options"},
 };
 // clang-format on

@@ -5,7 +5,8 @@
 #include <string>
 #include <vector>
 
-inline constexpr wchar_t kNamePage[] = L"Configuration Name", kLastPage[] = L"Finished";
+inline constexpr wchar_t kNamePage[] = L"Configuration Name", kLastPage[] = L"Finished",
+                         kLocationPage[] = L"Specify CNC file location";
 
 // What a page shows.
 struct Shown {

@@ -215,6 +215,7 @@ class Monkey {
             if (now.heading == L"Confirm CNC file location") NoteLocation();
         }
         page_ = std::move(now);
+        notes_.browses = page_.heading == kLocationPage;
     }
 
     void NoteLocation() {
