@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr DWORD kPatience_ms = 60000;
+constexpr DWORD kPatience_ms = 60000, kSettle_ms = 300;
 constexpr wchar_t kFormClass[] = L"VWizardForm";
 constexpr int kNextId = 100, kBackId = 101, kHeadingId = 120, kBoxTextId = 65535;
 constexpr int kMostVisits = 4; // of one page without getting on
@@ -132,6 +132,11 @@ void Walker::LeavePage(Journey& journey) {
     HWND next = Next();
     if (visits_ > kMostVisits || !next) Fail(L"no way on from the page " + heading);
     Press(next);
+    // A click that comes while the wizard still waits for the desktop, in the middle of the last page change,
+    // is dropped as any second one.
+    const auto stays = [&] { return wizard_.IsRunning() && !Modal() && Heading() == heading; };
+    for (const DWORD begin = GetTickCount(); stays() && GetTickCount() - begin < kSettle_ms;)
+        Sleep(1);
     if (heading == L"Finished")
         wizard_.Until([this] { return !wizard_.IsRunning() || Modal(); }, L"the end behind the last page");
 }
