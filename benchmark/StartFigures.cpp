@@ -51,9 +51,9 @@ void RunOnce(Runs& runs) {
     if (runs.hasMemory) runs.memory.push_back(static_cast<double>(PrivateMemory(LinuxProcess(mark))));
 }
 
-void PrintStart(const Runs& ours, const Runs& theirs) {
+void PrintStart(const Runs& ours, const Runs& theirs, double wanted) {
     PrintRatio(std::string("start, ") + ours.program.name, theirs.program.name, Median(ours.start),
-               Median(theirs.start), "ms", theirs.wanted);
+               Median(theirs.start), "ms", wanted);
 }
 
 void PrintMemory(const Runs& ours, const Runs& theirs, double wanted) {
@@ -92,15 +92,14 @@ void MeasureStart(const Bench& bench) {
     }
     for (const Runs& wizard : ours)
         for (const Runs& peer : theirs)
-            PrintStart(wizard, peer);
+            PrintStart(wizard, peer, peer.wanted);
     // What no program with these controls gets below.
-    for (const std::size_t peer : {0, 2, 3}) {
-        theirs[peer].wanted = 0;
-        PrintStart(theirs[1], theirs[peer]);
-    }
-    PrintMemory(theirs[1], theirs[0], 0);
+    const Runs &window = theirs[0], &controls = theirs[1];
+    for (const Runs& peer : theirs)
+        if (&peer != &controls) PrintStart(controls, peer, 0);
+    PrintMemory(controls, window, 0);
     for (const Runs& wizard : ours)
-        PrintMemory(wizard, theirs[0], 1.5);
+        PrintMemory(wizard, window, 1.5);
 }
 
 void MeasureIdle(const Bench& bench) {
