@@ -46,7 +46,7 @@ bool HasExtension(const std::wstring& name, const std::wstring& extension) {
 } // namespace
 
 bool FileExists(const std::wstring& path) {
-    if (TrimBlanks(SplitPath(path, 3)).empty()) return false;
+    if (TrimBlanks(SplitPath(path, kNameWithoutExtension)).empty()) return false;
     const DWORD attributes = Attributes(path);
     return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
 }

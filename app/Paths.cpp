@@ -12,13 +12,13 @@ std::wstring_view Part(std::wstring_view path, std::int16_t part) {
     const std::size_t dot = lastDot == path.npos || lastDot < name ? path.size() : lastDot;
     // clang-format off
     switch (part) {
-    case 1:  return path.substr(0, drive);
-    case 2:  return path.substr(drive, name - drive);
-    case 3:  return path.substr(name, dot - name);
-    case 4:  return dot == path.size() ? std::wstring_view() : path.substr(dot + 1);
-    case 5:  return path.substr(name);
-    case 6:  return path.substr(0, name);
-    default: return {};
+    case kDrive:                 return path.substr(0, drive);
+    case kFolder:                return path.substr(drive, name - drive);
+    case kNameWithoutExtension:  return path.substr(name, dot - name);
+    case kExtension:             return dot == path.size() ? std::wstring_view() : path.substr(dot + 1);
+    case kNameWithExtension:     return path.substr(name);
+    case kDriveAndFolder:        return path.substr(0, name);
+    default:                     return {};
     }
     // clang-format on
 }

@@ -1,16 +1,12 @@
 #include "app/modBrowseFolder.h"
 
 #include "app/Com.h"
-#include "win/Handles.h"
 
-#include <objbase.h>
 #include <shlobj.h>
 
 namespace {
 
 constexpr wchar_t kUsualStart[] = L"C:\\";
-
-using UniqueItemList = win::Unique<LPITEMIDLIST, CoTaskMemFree>;
 
 } // namespace
 

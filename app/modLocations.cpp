@@ -56,7 +56,7 @@ std::wstring FindSettingsPath() {
 
 void InitLocations() {
     const std::wstring module = ModulePath();
-    locations.ExeName = SplitPath(module, 3);
+    locations.ExeName = SplitPath(module, kNameWithoutExtension);
     locations.AppPath = ModuleFolder(module);
     locations.LocalAppDataPath = GetSpecialFolder(CSIDL_LOCAL_APPDATA);
     locations.CommonAppDataPath = GetSpecialFolder(CSIDL_COMMON_APPDATA);

@@ -21,11 +21,9 @@ constexpr wchar_t kProbeName[] = L"VAccessTest.txt";
 constexpr char kProbeLine[] = "Test\r\n";
 constexpr DWORD kProbeSize = sizeof kProbeLine - 1;
 
-// Opens a file and hands it on, null when the system refuses.
-win::UniqueKernelHandle Open(const std::wstring& path, DWORD access, DWORD disposition) {
-    const HANDLE file =
-        CreateFileW(path.c_str(), access, 0, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
-    return win::UniqueKernelHandle(file == INVALID_HANDLE_VALUE ? nullptr : file);
+win::UniqueFile Open(const std::wstring& path, DWORD access, DWORD disposition) {
+    return win::UniqueFile(
+        CreateFileW(path.c_str(), access, 0, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr));
 }
 
 std::int16_t WriteProbe(const std::wstring& path) {

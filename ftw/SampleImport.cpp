@@ -2,12 +2,6 @@
 
 #include "app/Paths.h"
 
-namespace {
-
-constexpr std::int16_t kNameWithoutExtension = 3;
-
-} // namespace
-
 std::vector<std::wstring> SampleEntries(const std::vector<std::wstring>& fileNames) {
     std::vector<std::wstring> entries;
     for (const std::wstring& name : fileNames)

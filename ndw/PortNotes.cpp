@@ -39,7 +39,7 @@ std::optional<std::int16_t> PortOf(const std::wstring& path) {
 
 // The system's pattern also finds longer extensions.
 bool MayBeConfiguration(const WIN32_FIND_DATAW& found) {
-    return lstrcmpiW(SplitPath(found.cFileName, 4).c_str(), kConfigurationExtension + 1) == 0 &&
+    return lstrcmpiW(SplitPath(found.cFileName, kExtension).c_str(), kConfigurationExtension + 1) == 0 &&
            !(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) && found.nFileSizeHigh == 0 &&
            found.nFileSizeLow == kDcpFileSize;
 }
@@ -81,7 +81,7 @@ std::map<int, std::vector<std::wstring>> PortsInUse(const std::wstring& folder, 
     do {
         if (!MayBeConfiguration(found)) continue;
         if (const auto port = PortOf(folder + found.cFileName))
-            uses[*port].push_back(SplitPath(found.cFileName, 3));
+            uses[*port].push_back(SplitPath(found.cFileName, kNameWithoutExtension));
     } while (GetTickCount64() - begin < time && FindNextFileW(handle, &found));
     return uses;
 }

@@ -5,7 +5,7 @@ set -euo pipefail
 packages=(
     g++-mingw-w64-i686-posix cmake ninja-build ccache googletest
     clang libclang-rt-14-dev llvm clang-format clang-tidy cppcheck
-    wine wine32:i386 xvfb xauth xdotool
+    wine wine32:i386 fonts-wine xvfb xauth xdotool
     imagemagick librsvg2-bin python3 zip unzip
 )
 

@@ -29,6 +29,8 @@ make_template() (
     unset DISPLAY WAYLAND_DISPLAY
     # Nothing that outlives this function may keep the lock.
     wineboot -u > /dev/null 2>&1 9>&-
+    # The buttons of title bars are characters of this font.
+    cp /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
     wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f > /dev/null 2>&1 9>&-
     wineserver -k 9>&- || true
     wineserver -w 9>&-
