@@ -46,7 +46,8 @@ void Main(const wchar_t* commandLine) {
     startUp.SamplesFolder = locations.ProgramFolder + L"Samples\\";
     startUp.MessageTitlePrefix = L"VWizard - ";
     TestConfigAccess();
-    frmWizard form(startUp.WizardMode == kNewDevice ? NdwBook() : FtwBook(), configAccess.ConfigWritable);
+    frmWizard form(startUp.WizardMode == kNewDevice ? NdwBook() : FtwBook(),
+                   {startUp.WizardTitle, startUp.ShiftWindow, configAccess.ConfigWritable});
     try {
         form.Form_Load();
     } catch (const win::ProgramEnded&) { // closed while it was opening

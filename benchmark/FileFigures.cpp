@@ -85,7 +85,7 @@ void MeasureSamples(const Bench& bench) {
         MakeFile(folder + L"Sample " + std::to_wstring(i) + L".dcp", "", 0);
     locations.SamplesPath = folder;
     startUp.WizardMode = kFirstTimeSetup;
-    frmWizard form(FtwBook(), true);
+    frmWizard form(FtwBook(), {.configAllowed = true});
     form.Form_Load();
     std::vector<double> ours, theirs;
     for (int run = 0; run < bench.runs; ++run) {

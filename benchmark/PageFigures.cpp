@@ -50,7 +50,7 @@ template <class Press> void Tour(HWND window, int pages, Changes& changes, Press
 }
 
 void TourOfWizard(Changes& changes) {
-    frmWizard form(NdwBook(), true);
+    frmWizard form(NdwBook(), {.configAllowed = true});
     form.Form_Load();
     // Up to the page of the name: the next one would create a file. One page is left out by the answers.
     constexpr int kPages = kNdwNamePage - 1;

@@ -2,6 +2,7 @@
 
 #include "app/Names.h"
 #include "app/Settings.h"
+#include "app/StartUp.h"
 #include "shell/ShortcutsPage.h"
 #include "shell/modShellLink.h"
 #include "wizard/frmWizard.h"
@@ -25,7 +26,20 @@ bool TakesOverNext(frmWizard& form) {
 
 void Exiting(frmWizard&) {}
 
-constexpr PageBook kBook{kFtwPages, true, Load, BeforeShow, TakesOverNext, FtwHyperlink, Exiting};
+constexpr PageBook kBook{
+    .pages = kFtwPages,
+    .icon = kFirstTimeSetup,
+    .picture = &frmWizard::picScreenLogo,
+    .hasSteps = false,
+    .hasSkip = true,
+    .keepsProgress = true,
+    .anotherPage = 0, // Back never reads "New"
+    .load = Load,
+    .beforeShow = BeforeShow,
+    .takesOverNext = TakesOverNext,
+    .hyperlink = FtwHyperlink,
+    .exiting = Exiting,
+};
 
 } // namespace
 

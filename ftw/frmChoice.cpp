@@ -79,14 +79,14 @@ void frmChoice::PlaceControls() {
                  width, height, SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void frmChoice::Form_Load() {
+win::Button& frmChoice::Form_Load() {
     win::Button* selected = &cmdOK; // an option that gets the focus becomes the selected one
     for (std::size_t i = 0; i < optChoice.size(); ++i) {
         const bool chosen = setupChoice == static_cast<std::int16_t>(i);
         optChoice[i].Checked(chosen);
         if (chosen) selected = &optChoice[i];
     }
-    selected->Focus();
+    return *selected;
 }
 
 void frmChoice::Form_Unload() {
@@ -97,7 +97,6 @@ void frmChoice::Form_Unload() {
 
 void ShowChoice(HWND owner) {
     frmChoice form;
-    form.Form_Load();
-    form.ShowModal(owner);
+    form.ShowModal(owner, form.Form_Load());
     form.Form_Unload();
 }

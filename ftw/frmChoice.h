@@ -17,14 +17,15 @@ extern std::int16_t setupChoice;
 class frmChoice : public win::Form {
   public:
     frmChoice();
+    ~frmChoice() override { Destroy(); }
 
     // Controls.
     win::Label lblInstructions;
     std::array<win::Button, 3> optChoice;
     win::Button cmdOK;
 
-    void Form_Load();   // selects the option of `setupChoice`
-    void Form_Unload(); // stores the selected option, if any, however the window was closed
+    win::Button& Form_Load(); // selects the option of `setupChoice`: what gets the focus
+    void Form_Unload();       // stores the selected option, if any, however the window was closed
     void cmdOK_Click() { Hide(); }
 
   protected:

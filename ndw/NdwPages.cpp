@@ -33,7 +33,20 @@ void Exiting(frmWizard& form) {
         RunCommandLine(L"\"" + locations.ProgramFolder + L"\\VConfig.exe\" " + form.ConfigName);
 }
 
-constexpr PageBook kBook{kNdwPages, false, Load, BeforeShow, TakesOverNext, NdwHyperlink, Exiting};
+constexpr PageBook kBook{
+    .pages = kNdwPages,
+    .icon = kNewDevice,
+    .picture = &frmWizard::picCncIcon,
+    .hasSteps = true,
+    .hasSkip = false,
+    .keepsProgress = false,
+    .anotherPage = kNdwPortPage, // without the introduction
+    .load = Load,
+    .beforeShow = BeforeShow,
+    .takesOverNext = TakesOverNext,
+    .hyperlink = NdwHyperlink,
+    .exiting = Exiting,
+};
 
 } // namespace
 

@@ -45,7 +45,8 @@ class Canvas {
 std::vector<std::wstring> IconKeys(const std::wstring& folder) {
     std::vector<std::wstring> keys;
     for (const std::wstring& file : ListFiles(folder, kIconExtension))
-        if (std::wstring key = SplitPath(file, kNameWithoutExtension); !key.empty()) keys.push_back(std::move(key));
+        if (std::wstring key = SplitPath(file, kNameWithoutExtension); !key.empty())
+            keys.push_back(std::move(key));
     std::sort(keys.begin(), keys.end(), Precedes);
     keys.resize(std::min<std::size_t>(keys.size(), kMostIcons));
     return keys;

@@ -102,16 +102,17 @@ void frmIcons::BindControls() {
 void frmIcons::OpenForm(const std::wstring& folder, HWND owner) {
     result_.clear();
     const std::vector<std::wstring> keys = IconKeys(folder);
-    const Disabled meanwhile(owner);
-    win::PumpPendingMessages();
+    {
+        const Disabled meanwhile(owner);
+        win::PumpPendingMessages();
+    }
     icons_.emplace(folder, keys, win::Px(kIconSide));
     if (icons_->Count() == 0) return;
     LayOut();
     ShowControls();
     MoveOver(owner);
     Show(OpenStrip(icons_->Count(), DefaultPosition(icons_->Keys())));
-    imgIcon[static_cast<std::size_t>(*SelectedSlot(strip_) - 1)].Focus();
-    ShowModal(owner);
+    ShowModal(owner, imgIcon[static_cast<std::size_t>(*SelectedSlot(strip_) - 1)]);
 }
 
 void frmIcons::LayOut() {

@@ -25,6 +25,7 @@ class ArrowButton : public win::Button {
 class frmIcons : public win::Form {
   public:
     frmIcons();
+    ~frmIcons() override { Destroy(); }
 
     // Reads the icons of `folder` (ends in a backslash) and runs the window in front of `owner`, which is
     // disabled meanwhile. Without icons the window is not shown.

@@ -1,5 +1,7 @@
 #include "win/Accessible.h"
 
+#include "win/SystemLibrary.h"
+
 #include <oleacc.h>
 
 #include <atomic>
@@ -11,7 +13,7 @@ namespace {
 
 // The library is loaded when a screen reader first asks: most starts never pay for it.
 FARPROC Oleacc(const char* function) {
-    static const HMODULE library = LoadLibraryExW(L"oleacc.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    static const HMODULE library = LoadSystemLibrary(L"oleacc.dll");
     return library ? GetProcAddress(library, function) : nullptr;
 }
 

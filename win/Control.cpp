@@ -20,6 +20,12 @@ void Control::Bind(Form& form, int id, const wchar_t* className, DWORD style, DW
     form.controls_.push_back(this);
 }
 
+Control::~Control() {
+    if (!form_) return;
+    form_->Forget(*this);
+    if (hwnd_) DestroyWindow(hwnd_);
+}
+
 RECT Control::Area() const {
     // Both edges are rounded, not the size, so that neighbours meet at every resolution.
     return {Px(left_), Px(top_), Px(left_ + width_), Px(top_ + height_)};

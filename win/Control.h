@@ -2,9 +2,9 @@
 
 // One child control of a form: a thin handle on a control of the system's own class. The window is made
 // when it is first needed (shown or sent a message), so that a form pays only for what its page uses;
-// until then place, visibility, text and tool tip are kept here. So they are while the form is being arranged
-// (see Form::Arrangement). Positions and sizes are twips in the form's
-// client area. A control must not outlive its form's window.
+// until then place, visibility, text and tool tip are kept here. So are place and visibility while the form
+// is being arranged (win/Arrangement.h). Positions and sizes are twips in the form's client area. A control
+// that goes takes its window along and itself off its form.
 
 #include "win/Handles.h"
 #include "win/Twips.h"
@@ -26,7 +26,7 @@ class Control {
     Control() = default;
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
-    virtual ~Control() = default;
+    virtual ~Control();
 
     // Ties the control to its form and gives it the class, style and control id that it is made with.
     // Called once, before anything else. `className` must be a literal.

@@ -26,7 +26,10 @@ ATOM RegisterFormClass(const FormLook& look, WNDPROC procedure) {
 
 } // namespace
 
-Form::~Form() {
+// Only where a form's own destructor did not get its turn.
+Form::~Form() { Destroy(); }
+
+void Form::Destroy() {
     if (hwnd_) DestroyWindow(hwnd_);
 }
 
@@ -38,10 +41,11 @@ void Form::Create(const FormLook& look, HFONT defaultFont, int width, int height
     if (!hwnd_) throw AppError(static_cast<int>(GetLastError()), L"VWizard", L"Unable to open a window.");
 }
 
-void Form::ShowModal(HWND owner) {
-    owner_ = owner;
-    if (owner_) EnableWindow(owner_, FALSE);
+void Form::ShowModal(HWND owner, Control& first) {
+    activeBefore_ = owner ? owner : GetActiveWindow(); // before the form takes the focus
+    DisableOthers();
     ShowWindow(hwnd_, SW_SHOW);
+    first.Focus();
     MSG message{};
     bool ended = false;
     while (!ended && IsWindowVisible(hwnd_)) {
@@ -52,14 +56,30 @@ void Form::ShowModal(HWND owner) {
     if (ended) EndMessageLoop(); // the outer loop has to see it too
 }
 
-// The owner comes to life first: otherwise another program's window would become the active one.
+// The others come to life first: otherwise another program's window would become the active one.
 void Form::Hide() {
-    if (owner_) EnableWindow(owner_, TRUE);
+    EnableOthers();
     ShowWindow(hwnd_, SW_HIDE);
-    if (owner_) SetActiveWindow(owner_);
-    owner_ = nullptr;
+    if (activeBefore_) SetActiveWindow(std::exchange(activeBefore_, nullptr));
     // A click that was sent, not posted, runs inside the modal loop's wait, which goes on until a message.
     PostMessageW(hwnd_, WM_NULL, 0, 0);
+}
+
+BOOL CALLBACK Form::DisableOther(HWND window, LPARAM form) {
+    auto& modal = *reinterpret_cast<Form*>(form);
+    if (window == modal.hwnd_ || !IsWindowVisible(window) || !IsWindowEnabled(window)) return TRUE;
+    EnableWindow(window, FALSE);
+    modal.others_.push_back(window);
+    return TRUE;
+}
+
+void Form::DisableOthers() {
+    EnumThreadWindows(GetCurrentThreadId(), &Form::DisableOther, reinterpret_cast<LPARAM>(this));
+}
+
+void Form::EnableOthers() {
+    for (const HWND window : std::exchange(others_, {}))
+        EnableWindow(window, TRUE);
 }
 
 void Form::DefaultButton(Control& button) {
@@ -72,26 +92,34 @@ void Form::Note(Control& control) {
     noted_.push_back(&control);
 }
 
+void Form::Forget(Control& control) {
+    std::erase(controls_, &control);
+    std::erase(noted_, &control);
+    std::erase(unpainted_, &control);
+    if (focus_ == &control) focus_ = nullptr;
+}
+
 void Form::BeginArrangement(const RECT& area) {
     UnionRect(&uncovered_, &uncovered_, &area);
     if (arrangements_++ > 0) return;
-    // Switching it on again would show a window that is still hidden.
-    isUnpainted_ = (GetWindowLongW(hwnd_, GWL_STYLE) & WS_VISIBLE) != 0;
-    if (isUnpainted_) DefWindowProcW(hwnd_, WM_SETREDRAW, FALSE, 0);
+    for (Control* control : controls_) {
+        if (!control->isShown_) continue;
+        SendMessageW(control->hwnd_, WM_SETREDRAW, FALSE, 0);
+        unpainted_.push_back(control);
+    }
 }
 
+// What is to be hidden is told to paint again as well: lists and texts would remember that they must not.
 void Form::EndArrangement() {
-    if (arrangements_ == 1) // while changes still are gathered for one painting
-        for (Control* control : std::exchange(noted_, {}))
-            control->Settle();
-    if (--arrangements_ > 0) return;
-    if (isUnpainted_) {
-        DefWindowProcW(hwnd_, WM_SETREDRAW, TRUE, 0);
-        // Only what was uncovered and what was due before is to be painted: not the frame.
-        RECT due{};
-        if (GetUpdateRect(hwnd_, &due, FALSE)) UnionRect(&uncovered_, &uncovered_, &due);
-        RedrawWindow(hwnd_, nullptr, nullptr, RDW_VALIDATE | RDW_NOFRAME | RDW_NOCHILDREN);
+    if (arrangements_ > 1) {
+        --arrangements_;
+        return;
     }
+    for (Control* control : std::exchange(unpainted_, {}))
+        SendMessageW(control->hwnd_, WM_SETREDRAW, TRUE, 0);
+    for (Control* control : std::exchange(noted_, {})) // while what they uncover is still gathered
+        control->Settle();
+    --arrangements_;
     Uncover(std::exchange(uncovered_, {}));
     if (Control* control = std::exchange(focus_, nullptr)) Focus(*control);
 }
@@ -160,11 +188,17 @@ LRESULT Form::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         FillRect(reinterpret_cast<HDC>(wParam), &client, Background());
         return TRUE;
     }
+    case WM_SYSCOLORCHANGE: // comes to top-level windows only; controls keep brushes of their own
+        for (Control* control : controls_)
+            if (control->hwnd_) SendMessageW(control->hwnd_, message, wParam, lParam);
+        RedrawWindow(hwnd_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+        return 0;
     case WM_SETCURSOR: // the mouse is here: the first time a tip could be wanted
         AddToolTips();
         break;
     case WM_NCDESTROY: {
         const HWND window = std::exchange(hwnd_, nullptr);
+        toolTips_ = nullptr; // has gone with it
         for (Control* control : controls_)
             control->hwnd_ = nullptr;
         return DefDlgProcW(window, message, wParam, lParam);
@@ -223,9 +257,18 @@ int ShowMessageBox(HWND owner, const std::wstring& text, UINT buttonsAndIcon) {
 
 void PumpMessage(MSG& message) {
     const HWND form = message.hwnd ? GetAncestor(message.hwnd, GA_ROOT) : nullptr;
+    // A form that waits for another window may still get the focus from outside: its keys are nobody's.
+    const bool isKey = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
+    if (form && isKey && !IsWindowEnabled(form)) return;
     if (form && IsDialogMessageW(form, &message)) return;
     TranslateMessage(&message);
     DispatchMessageW(&message);
+}
+
+void DropPendingKeys() {
+    MSG message{};
+    while (PeekMessageW(&message, nullptr, WM_KEYFIRST, WM_KEYLAST, PM_REMOVE))
+        if (message.message == WM_QUIT) EndMessageLoop(); // comes through every filter
 }
 
 void PumpPendingMessages() {

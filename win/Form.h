@@ -32,24 +32,12 @@ class Form {
     HWND Hwnd() const { return hwnd_; }
     HFONT DefaultFont() const { return defaultFont_; }
 
-    // Runs the message loop until the form is hidden or closed. The owner, if any, is disabled meanwhile
-    // and gets the focus back. Throws ProgramEnded when the program was told to quit meanwhile.
-    void ShowModal(HWND owner);
+    // Shows the form, with the focus on `first`, and runs the message loop until it is hidden or closed. The
+    // program's other windows take no input meanwhile; the form is shown over `owner` (may be null), and what
+    // was active before is so again afterwards. Throws ProgramEnded when the program was told to quit
+    // meanwhile.
+    void ShowModal(HWND owner, Control& first);
     void Hide();
-
-    // While one lives, places, order and visibility of the form's controls and the focus are only noted, and
-    // nothing is painted. At the end of the outermost one the windows get them all, and `area` (pixels) is
-    // painted anew.
-    class Arrangement {
-      public:
-        Arrangement(Form& form, const RECT& area) : form_(form) { form_.BeginArrangement(area); }
-        Arrangement(const Arrangement&) = delete;
-        Arrangement& operator=(const Arrangement&) = delete;
-        ~Arrangement() { form_.EndArrangement(); }
-
-      private:
-        Form& form_;
-    };
 
     // Makes `button` the one that Enter presses; only this button is drawn as the default one.
     void DefaultButton(Control& button);
@@ -57,6 +45,8 @@ class Form {
   protected:
     // Makes the (hidden) window. Outer size in pixels; `defaultFont` is not owned and must outlive the form.
     void Create(const FormLook& look, HFONT defaultFont, int width, int height);
+    // To be called by the destructor of each form: the window goes before the controls and icons it uses.
+    void Destroy();
 
     // What the form itself does with a message; the rest goes to the system's dialog procedure.
     virtual LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
@@ -71,6 +61,7 @@ class Form {
 
   private:
     friend class Control;
+    friend class Arrangement;
     static LRESULT CALLBACK WindowProcedure(HWND, UINT, WPARAM, LPARAM);
     LRESULT Dispatch(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT OnCommand(WPARAM wParam, LPARAM lParam);
@@ -82,19 +73,26 @@ class Form {
     void BeginArrangement(const RECT& area);
     void EndArrangement();
     void Note(Control& control);    // has changed during an arrangement
+    void Forget(Control& control);  // is gone
     void Uncover(const RECT& area); // to be painted, children too
     void Focus(Control& control);
+    static BOOL CALLBACK DisableOther(HWND, LPARAM form);
+    void DisableOthers();
+    void EnableOthers();
 
     HWND hwnd_ = nullptr;
     HWND toolTips_ = nullptr;
-    HWND owner_ = nullptr; // while shown modally
     HFONT defaultFont_ = nullptr;
     int background_ = COLOR_WINDOW;
     std::vector<Control*> controls_;
+    // while shown modally
+    std::vector<HWND> others_; // that were enabled before
+    HWND activeBefore_ = nullptr;
+    // during an arrangement
     int arrangements_ = 0;
-    bool isUnpainted_ = false;    // painting is switched off
-    std::vector<Control*> noted_; // in the order of their last change
-    Control* focus_ = nullptr;    // noted
+    std::vector<Control*> unpainted_; // told not to paint
+    std::vector<Control*> noted_;     // in the order of their last change
+    Control* focus_ = nullptr;
     RECT uncovered_{};
 };
 
@@ -109,5 +107,7 @@ int ShowMessageBox(HWND owner, const std::wstring& text, UINT buttonsAndIcon);
 void PumpMessage(MSG& message);
 // Handles what is waiting in the queue and returns; throws ProgramEnded when that ended the program.
 void PumpPendingMessages();
+// Forgets the keys that are waiting in the queue.
+void DropPendingKeys();
 
 } // namespace win

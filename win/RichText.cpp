@@ -1,9 +1,10 @@
 #include "win/RichText.h"
 
 #include "win/AppError.h"
+#include "win/Handles.h"
 #include "win/Screen.h"
+#include "win/SystemLibrary.h"
 
-#include <iterator>
 #include <utility>
 
 namespace win {
@@ -11,7 +12,8 @@ namespace win {
 namespace {
 
 constexpr int kPointsPerInch = 72;
-constexpr LONG kBulletOffset = 180; // twips between a bullet and its text
+constexpr LONG kTwipsPerPoint = kTwipsPerInch / kPointsPerInch;
+constexpr SHORT kBulletOffset = 180; // twips between a bullet and its text
 
 CHARFORMAT2W CharFormat(DWORD mask) {
     CHARFORMAT2W format{};
@@ -20,25 +22,10 @@ CHARFORMAT2W CharFormat(DWORD mask) {
     return format;
 }
 
-PARAFORMAT2 ParaFormat(const FormattedText::Paragraph& look) {
+PARAFORMAT2 ParaFormat(DWORD mask) {
     PARAFORMAT2 format{};
     format.cbSize = sizeof format;
-    format.dwMask = PFM_NUMBERING | PFM_OFFSET | PFM_STARTINDENT | PFM_RIGHTINDENT;
-    format.wNumbering = look.bullet ? PFN_BULLET : 0;
-    format.dxOffset = look.bullet ? kBulletOffset : 0;
-    format.dxStartIndent = look.indent;
-    format.dxRightIndent = look.rightIndent;
-    return format;
-}
-
-// Only what differs from plain text.
-CHARFORMAT2W CharFormat(const FormattedText::Character& look) {
-    CHARFORMAT2W format = CharFormat((look.bold ? CFM_BOLD : 0) | (look.italic ? CFM_ITALIC : 0) |
-                                     (look.color ? CFM_COLOR : 0) | (look.fontSize ? CFM_SIZE : 0));
-    format.dwEffects =
-        format.dwMask & (CFM_BOLD | CFM_ITALIC); // the bits of the effects are those of the mask
-    format.crTextColor = look.color;
-    format.yHeight = look.fontSize * (kTwipsPerInch / kPointsPerInch);
+    format.dwMask = mask;
     return format;
 }
 
@@ -54,17 +41,10 @@ CHARFORMAT2W PlainFormat(HFONT font) {
     return format;
 }
 
-std::wstring WithLineFeeds(const std::wstring& text) {
-    std::wstring result;
-    for (const wchar_t c : text)
-        c == L'\r' ? result += L"\r\n" : result += c;
-    return result;
-}
-
 } // namespace
 
 void LoadRichText() {
-    static const HMODULE library = LoadLibraryExW(L"riched20.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+    static const HMODULE library = LoadSystemLibrary(L"riched20.dll");
     if (!library)
         throw AppError(static_cast<int>(GetLastError()), L"VWizard", L"Unable to load riched20.dll.");
 }
@@ -72,6 +52,7 @@ void LoadRichText() {
 void RichText::Made() {
     InterceptMessages();
     Send(EM_SETEVENTMASK, 0, 0);
+    Send(EM_SETUNDOLIMIT, 0); // or every step of a text's making would be kept
 }
 
 bool RichText::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
@@ -81,56 +62,22 @@ bool RichText::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& re
     return true;
 }
 
-bool RichText::IsPlain() const {
-    const CHARFORMAT2W plain = PlainFormat(Font());
-    CHARFORMAT2W present = CharFormat(0);
-    Ask(EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&present));
-    PARAFORMAT2 flush{};
-    flush.cbSize = sizeof flush;
-    Ask(EM_GETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&flush));
-    return (present.dwEffects & plain.dwMask) == plain.dwEffects && present.yHeight == plain.yHeight &&
-           present.bCharSet == plain.bCharSet && lstrcmpiW(present.szFaceName, plain.szFaceName) == 0 &&
-           flush.wNumbering == 0 && flush.dxStartIndent == 0 && flush.dxRightIndent == 0 &&
-           flush.dxOffset == 0;
-}
-
-// Some versions keep the first character's format for all of a new text, others forget all formats.
-// Formatting anew what is plain already would cost more than all the rest: the text would be measured again,
-// with fonts that have just been thrown away.
-void RichText::SetText(const FormattedText& text) {
-    SetWindowTextW(Handle(), WithLineFeeds(text.Text()).c_str());
-    Select(0, 0);
-    if (!IsPlain()) MakePlain();
-    for (const auto& run : text.ParagraphRuns()) {
-        // With its line end the selection would reach the next paragraph.
-        Select(run.start, run.end - (text.Text()[static_cast<std::size_t>(run.end) - 1] == L'\r' ? 1 : 0));
-        PARAFORMAT2 format = ParaFormat(run.look);
-        Send(EM_SETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&format));
-    }
-    for (const auto& run : text.CharacterRuns()) {
-        Select(run.start, run.end);
-        CHARFORMAT2W format = CharFormat(run.look);
-        Send(EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
-    }
-    ScrollToTop();
-}
-
-void RichText::MakePlain() {
+// Some versions keep the first character's look for all of a new text, others forget all looks.
+void RichText::Text(std::wstring_view text) {
+    SetWindowTextW(Handle(), std::wstring(text).c_str());
     Select(0, -1);
-    CHARFORMAT2W plain = PlainFormat(Font());
-    Send(EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&plain));
-    PARAFORMAT2 flush = ParaFormat(FormattedText::Paragraph{});
-    Send(EM_SETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&flush));
+    SetCharacters(PlainFormat(Font()));
+    SetParagraphs(ParaFormat(PFM_NUMBERING | PFM_OFFSET | PFM_STARTINDENT | PFM_RIGHTINDENT));
     Select(0, 0);
 }
 
-void RichText::ScrollBar(bool visible) {
-    if (std::exchange(hasScrollBar_, visible) != visible) Send(EM_SHOWSCROLLBAR, SB_VERT, visible);
+LONG RichText::Length() const {
+    GETTEXTLENGTHEX measure{GTL_NUMCHARS | GTL_PRECISE, 1200};
+    return static_cast<LONG>(Ask(EM_GETTEXTLENGTHEX, reinterpret_cast<WPARAM>(&measure)));
 }
 
 std::wstring RichText::Text() const {
-    GETTEXTLENGTHEX measure{GTL_NUMCHARS | GTL_PRECISE, 1200};
-    const auto length = Ask(EM_GETTEXTLENGTHEX, reinterpret_cast<WPARAM>(&measure));
+    const LONG length = Length();
     if (length <= 0) return {};
     std::wstring text(static_cast<std::size_t>(length), L'\0');
     GETTEXTEX request{};
@@ -143,11 +90,98 @@ std::wstring RichText::Text() const {
     return text;
 }
 
-void RichText::Select(std::int32_t start, std::int32_t end) {
-    CHARRANGE present{};
-    Ask(EM_EXGETSEL, 0, reinterpret_cast<LPARAM>(&present));
+CHARRANGE RichText::Selection() const {
+    CHARRANGE range{};
+    Ask(EM_EXGETSEL, 0, reinterpret_cast<LPARAM>(&range));
+    return range;
+}
+
+void RichText::Select(LONG start, LONG end) {
     CHARRANGE range{start, end};
-    if (present.cpMin != start || present.cpMax != end) Ask(EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&range));
+    Ask(EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&range));
+}
+
+void RichText::SetCharacters(CHARFORMAT2W format) {
+    Ask(EM_SETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
+}
+
+void RichText::SetParagraphs(PARAFORMAT2 format) {
+    Ask(EM_SETPARAFORMAT, 0, reinterpret_cast<LPARAM>(&format));
+}
+
+void RichText::SelStart(std::int32_t position) { Select(position, position); }
+
+void RichText::SelLength(std::int32_t length) {
+    const LONG start = Selection().cpMin;
+    Select(start, start + length);
+}
+
+// Left to itself the control may give new text the look of the character in front of it.
+void RichText::SelText(std::wstring_view text) {
+    CHARFORMAT2W look = CharFormat(0);
+    Ask(EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&look));
+    const LONG start = Selection().cpMin;
+    Ask(EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(std::wstring(text).c_str()));
+    if (text.empty()) return;
+    const LONG end = Selection().cpMax;
+    Select(start, end);
+    SetCharacters(look);
+    Select(end, end);
+}
+
+void RichText::SelBold(bool on) {
+    CHARFORMAT2W format = CharFormat(CFM_BOLD);
+    if (on) format.dwEffects = CFE_BOLD;
+    SetCharacters(format);
+}
+
+void RichText::SelItalic(bool on) {
+    CHARFORMAT2W format = CharFormat(CFM_ITALIC);
+    if (on) format.dwEffects = CFE_ITALIC;
+    SetCharacters(format);
+}
+
+// Black itself could not be read in a high-contrast scheme.
+void RichText::SelColor(std::uint32_t rgb) {
+    CHARFORMAT2W format = CharFormat(CFM_COLOR);
+    if (rgb == 0) format.dwEffects = CFE_AUTOCOLOR;
+    format.crTextColor = rgb;
+    SetCharacters(format);
+}
+
+void RichText::SelFontSize(std::int16_t points) {
+    CHARFORMAT2W format = CharFormat(CFM_SIZE);
+    format.yHeight = points * kTwipsPerPoint;
+    SetCharacters(format);
+}
+
+std::int16_t RichText::SelFontSize() const {
+    CHARFORMAT2W format = CharFormat(CFM_SIZE);
+    Ask(EM_GETCHARFORMAT, SCF_SELECTION, reinterpret_cast<LPARAM>(&format));
+    return static_cast<std::int16_t>(format.yHeight / kTwipsPerPoint);
+}
+
+void RichText::SelBullet(bool on) {
+    PARAFORMAT2 format = ParaFormat(PFM_NUMBERING | PFM_OFFSET);
+    format.wNumbering = on ? PFN_BULLET : 0;
+    format.dxOffset = on ? kBulletOffset : 0;
+    SetParagraphs(format);
+}
+
+void RichText::SelIndent(std::int16_t twips) {
+    PARAFORMAT2 format = ParaFormat(PFM_STARTINDENT);
+    format.dxStartIndent = twips;
+    SetParagraphs(format);
+}
+
+void RichText::SelRightIndent(std::int16_t twips) {
+    PARAFORMAT2 format = ParaFormat(PFM_RIGHTINDENT);
+    format.dxRightIndent = twips;
+    SetParagraphs(format);
+}
+
+void RichText::ScrollBar(bool visible) {
+    if (std::exchange(hasScrollBar_, visible) != visible) Send(EM_SHOWSCROLLBAR, SB_VERT, visible);
 }
 
 void RichText::ScrollToTop() {
@@ -156,20 +190,16 @@ void RichText::ScrollToTop() {
 }
 
 int RichText::LineHeight() const {
-    const HDC dc = GetDC(HandleIfMade());
-    const HGDIOBJ old = SelectObject(dc, Font());
+    const WindowDc dc(HandleIfMade());
+    const SelectedObject font(dc.Get(), Font());
     TEXTMETRICW metrics{};
-    GetTextMetricsW(dc, &metrics);
-    SelectObject(dc, old);
-    ReleaseDC(HandleIfMade(), dc);
+    GetTextMetricsW(dc.Get(), &metrics);
     return metrics.tmHeight + metrics.tmExternalLeading;
 }
 
 Twips RichText::TextHeight() const {
-    GETTEXTLENGTHEX measure{GTL_NUMCHARS | GTL_PRECISE, 1200};
-    const auto length = Ask(EM_GETTEXTLENGTHEX, reinterpret_cast<WPARAM>(&measure));
     POINTL last{};
-    Ask(EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&last), length);
+    Ask(EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&last), Length());
     constexpr int kSlack = 3; // pixels: the control's own margins
     return Tw(static_cast<int>(last.y) + LineHeight() + kSlack);
 }

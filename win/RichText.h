@@ -1,14 +1,15 @@
 #pragma once
 
-// A read-only rich-text control. Text() gives the text as the control counts it: CR alone ends a line.
+// A read-only rich-text control, changed through its selection. Text() gives the text as the control counts
+// it: positions are characters from 0 and CR alone ends a line.
 
 #include "win/Control.h"
-#include "win/FormattedText.h"
 
 #include <richedit.h>
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace win {
 
@@ -19,9 +20,23 @@ class RichText : public Control {
                                     ES_NOOLEDRAGDROP | WS_VSCROLL | WS_TABSTOP;
     static constexpr const wchar_t* kClassName = L"RichEdit20W";
 
-    // Replaces the whole text. What `text` leaves plain gets the control's font in the system's text colour.
-    void SetText(const FormattedText& text);
+    // Replaces the whole text, all of it in the control's font and the system's text color. CR LF, CR or LF
+    // ends a line. Nothing is selected afterwards.
+    void Text(std::wstring_view text);
     std::wstring Text() const;
+
+    // What follows acts on the selection. A look given to an empty one is that of text put in there next.
+    void SelStart(std::int32_t position); // the selection is empty then
+    void SelLength(std::int32_t length);
+    void SelText(std::wstring_view text); // looks like what it replaces; the selection is empty behind it
+    void SelBold(bool on);
+    void SelItalic(bool on);
+    void SelColor(std::uint32_t rgb); // 0x00BBGGRR; black is the system's text color
+    void SelFontSize(std::int16_t points);
+    std::int16_t SelFontSize() const;
+    void SelBullet(bool on); // like the indents, of whole paragraphs
+    void SelIndent(std::int16_t twips);
+    void SelRightIndent(std::int16_t twips);
 
     // For a control bound without WS_VSCROLL, whose text then keeps its width whatever its height is.
     void ScrollBar(bool visible);
@@ -39,9 +54,11 @@ class RichText : public Control {
         return SendMessageW(HandleIfMade(), message, wParam, lParam);
     }
     int LineHeight() const; // pixels
-    bool IsPlain() const;   // the format at the caret
-    void MakePlain();       // the whole text
-    void Select(std::int32_t start, std::int32_t end);
+    LONG Length() const;    // of the text, as it is counted
+    CHARRANGE Selection() const;
+    void Select(LONG start, LONG end);
+    void SetCharacters(CHARFORMAT2W format);
+    void SetParagraphs(PARAFORMAT2 format);
 
     bool hasScrollBar_ = false; // made visible by ScrollBar
 };

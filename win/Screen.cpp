@@ -1,12 +1,13 @@
 #include "win/Screen.h"
 
+#include "win/Handles.h"
+
 namespace win {
 
 int Dpi() {
     static const int dpi = [] {
-        const HDC screen = GetDC(nullptr);
-        const int pixelsPerInch = GetDeviceCaps(screen, LOGPIXELSY);
-        ReleaseDC(nullptr, screen);
+        const WindowDc screen(nullptr);
+        const int pixelsPerInch = GetDeviceCaps(screen.Get(), LOGPIXELSY);
         return pixelsPerInch > 0 ? pixelsPerInch : 96;
     }();
     return dpi;

@@ -30,6 +30,7 @@ inline constexpr Twips kTextInset = 15_tw; // of the text inside its control: li
 inline constexpr Twips kTextTop = kMainTop + 120_tw;
 inline constexpr Twips kTextHeight = 2175_tw; // until a page says otherwise
 inline constexpr Twips kContentBottom = kRowTop - 60_tw;
+inline constexpr Twips kTallestText = kContentBottom - kTextTop; // of a page without inputs
 
 // Gaps of the input column.
 inline constexpr Twips kGapAfterText = 120_tw;  // text to first input

@@ -4,15 +4,12 @@
 // that of its outer edge on the screen, the rest lies in its client area.
 
 #include "win/Twips.h"
+#include "wizard/FormPlace.h"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-
-struct PixelArea {
-    int left, top, right, bottom;
-};
 
 struct MessageScreen {
     PixelArea workArea; // what the task bar leaves free
@@ -32,7 +29,8 @@ struct MessageLayout {
 };
 
 // `size` is 0 to 3, small to large (2 and 3 are one size); any other leaves the size that the window is made
-// with. Without an owner the middle is that of the right and the bottom edge of the work area. A window that
-// would leave the work area is put 100 twips inside the edge that it would pass.
+// with. Without an owner the window stands about the middle between 0 and the right and bottom edges of the
+// work area. One that would pass the area's right or bottom edge is put 100 twips inside it; one that would
+// pass the upper or left edge is put 100 twips from that of the screen.
 MessageLayout LayOutMessage(std::int16_t size, std::size_t buttons, const MessageScreen& screen,
                             const std::optional<PixelArea>& owner);

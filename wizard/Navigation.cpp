@@ -2,35 +2,52 @@
 
 #include "app/Names.h"
 #include "app/Settings.h"
+#include "app/Suite.h"
+#include "win/Arrangement.h"
 #include "wizard/frmWizard.h"
-
-#include <utility>
 
 namespace {
 
-constexpr wchar_t kProgressKey[] = L"FTSW_MaxProgress";
-
-constexpr wchar_t kSkipReminder[] = L"Complete all steps to ensure that Varnel DNC\r\n"
-                                    L"is installed correctly. If you still wish to skip\r\n"
-                                    L"this step, click \"Skip\" once more. This reminder\r\n"
-                                    L"will not appear again.";
+// clang-format off
+constexpr wchar_t kSkipReminder[] =
+    L"Complete all steps to ensure that Varnel DNC\r\n"
+    L"is installed correctly. If you still wish to skip\r\n"
+    L"this step, click \"Skip\" once more. This reminder\r\n"
+    L"will not appear again.";
 
 // The New Device Wizard asks with the same words.
-constexpr wchar_t kExitQuestion[] = L"W A R N I N G\r\n\r\n"
-                                    L"Varnel strongly recommends that you complete\r\n"
-                                    L"the First-Time Setup Wizard before using your\r\n"
-                                    L"Varnel DNC software for the first time.\r\n\r\n"
-                                    L"Click \"No\" and complete first-time\r\n"
-                                    L"setup.\r\n\r\n"
-                                    L"Exit? Are you sure?";
+constexpr wchar_t kExitQuestion[] =
+    L"W A R N I N G\r\n"
+    L"\r\n"
+    L"Varnel strongly recommends that you complete\r\n"
+    L"the First-Time Setup Wizard before using your\r\n"
+    L"Varnel DNC software for the first time.\r\n"
+    L"\r\n"
+    L"Click \"No\" and complete first-time\r\n"
+    L"setup.\r\n"
+    L"\r\n"
+    L"Exit? Are you sure?";
+// clang-format on
 
-// A flag that is true for the length of one handler, however that ends.
+// A flag that is up for the length of one handler, however that ends.
 class Raised {
   public:
     explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
     Raised(const Raised&) = delete;
     Raised& operator=(const Raised&) = delete;
     ~Raised() { flag_ = false; }
+
+  private:
+    bool& flag_;
+};
+
+// A flag that may come up during one handler and is down behind it, however that ends.
+class Lowered {
+  public:
+    explicit Lowered(bool& flag) : flag_(flag) {}
+    Lowered(const Lowered&) = delete;
+    Lowered& operator=(const Lowered&) = delete;
+    ~Lowered() { flag_ = false; }
 
   private:
     bool& flag_;
@@ -44,8 +61,10 @@ void frmWizard::cmdNext_Click() {
     if (book_.takesOverNext(*this)) return;
     Skipping = false;
     const Raised moving(MovingNext);
+    const Lowered staying(StayOnPage);
+    const Lowered told(toldOfRefusedWrite_);
     LeavePage();
-    if (std::exchange(StayOnPage, false)) return;
+    if (StayOnPage) return;
     if (book_.keepsProgress) KeepProgress();
     ++PageNo;
     ShowPage();
@@ -55,14 +74,15 @@ void frmWizard::cmdBack_Click() {
     if (backBusy_) return;
     const Raised busy(backBusy_);
     const Raised moving(MovingBack);
+    const Lowered staying(StayOnPage);
     if (cmdBack.Text() == kNewCaption) { // a further device, without the introduction
         cmdBack.Text(kBackCaption);
-        PageNo = 3;
+        PageNo = book_.anotherPage;
         ShowPage();
         return;
     }
     LeavePage();
-    if (std::exchange(StayOnPage, false)) return;
+    if (StayOnPage) return;
     --PageNo;
     ShowPage();
 }
@@ -72,8 +92,9 @@ void frmWizard::cmdSkip_Click() {
     MovingNext = false;
     const Raised busy(skipBusy_);
     const Raised moving(Skipping);
+    const Lowered staying(StayOnPage);
     LeavePage();
-    if (std::exchange(StayOnPage, false)) return;
+    if (StayOnPage) return;
     SkipToNextPage();
     ShowPage();
 }
@@ -89,43 +110,57 @@ void frmWizard::SkipToNextPage() {
         SkipReminderShown = true;
         return;
     }
-    const Page* page = FindPage(book_.pages, PageNo);
-    PageNo = page ? Arrival(*page, Move::Skip, true) : static_cast<std::int16_t>(PageNo + 1);
+    if (const Page* page = FindPage(book_.pages, PageNo)) PageNo = Arrival(*page, Move::Skip);
 }
 
 // The stored number only grows. A refused write is told; the user goes on all the same.
 void frmWizard::KeepProgress() {
-    const std::wstring stored = TrimBlanks(ReadIniString(L"General", kProgressKey, L""));
+    const std::wstring stored = TrimBlanks(ReadIniString(suite::kGeneral, suite::kMaxProgress, L""));
     if (PageNo <= NumericValue(stored)) return;
     try {
-        WriteIniString(kProgressKey, std::to_wstring(PageNo));
+        WriteIniString(suite::kMaxProgress, std::to_wstring(PageNo));
     } catch (const win::AppError& error) {
-        win::ShowMessageBox(Hwnd(), error.Description(), MB_OK | MB_ICONEXCLAMATION);
+        TellOfRefusedWrite(error.Description());
     }
 }
 
+void frmWizard::TellOfRefusedWrite(const std::wstring& description) {
+    if (toldOfRefusedWrite_) return;
+    toldOfRefusedWrite_ = true;
+    win::ShowMessageBox(Hwnd(), description, MB_OK | MB_ICONEXCLAMATION);
+}
+
+// The one place that reads why the page is left.
+Move frmWizard::PresentMove() const { return Skipping ? Move::Skip : MovingBack ? Move::Back : Move::Next; }
+
+// Leaves PageNo one plain step in front of where the move leads. A Skip has its own rule for that.
 void frmWizard::LeavePage() {
     const Page* page = FindPage(book_.pages, PageNo);
     if (!page) return;
-    const Move move = Skipping ? Move::Skip : MovingBack ? Move::Back : Move::Next;
+    const Move move = PresentMove();
     if (page->leave) page->leave(*this, move);
-    if (StayOnPage || move == Move::Skip) return; // the skip rule has its own detours
-    const Detour& detour = DetourOf(*page, move);
-    if (!detour.condition || detour.condition()) PageNo = static_cast<std::int16_t>(PageNo + detour.pages);
+    if (StayOnPage || move == Move::Skip) return;
+    PageNo = static_cast<std::int16_t>(Arrival(*page, move) - PlainStep(move));
 }
 
 void frmWizard::ShowPage() {
-    const Arrangement arrangement(*this, PageArea()); // half a page is never seen
+    const Page* page = FindPage(book_.pages, PageNo);
+    if (page && page->prepare) {
+        const win::Hourglass wait;
+        page->prepare(*this);
+    }
+    const win::Arrangement arrangement(*this, PageArea());
     cmdBack.Enabled(PageNo != 1);
     pool.ClearPage(txtInfo);
-    const Page* page = FindPage(book_.pages, PageNo);
-    if (!page) return txtInfo.SetText(win::FormattedText());
+    ResetInfo();
+    if (!page) return;
     cmdNext.Focus(); // unless the builder knows better
     cmdNext.Text(page->nextCaption);
     cmdSkip.Visible(page->skip == Show::Yes);
     cmdBack.Visible(page->back == Show::Yes);
     if (book_.keepsProgress)
-        picHeader.ToolTip(L"Progress: " + TrimBlanks(ReadIniString(L"General", kProgressKey, L"")));
+        picHeader.ToolTip(L"Progress: " +
+                          TrimBlanks(ReadIniString(suite::kGeneral, suite::kMaxProgress, L"")));
     book_.beforeShow(*this);
     page->build(*this);
 }

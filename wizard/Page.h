@@ -1,12 +1,17 @@
 #pragma once
 
-// What a page is to the engine, and the book of pages that a mode hands to the form. The engine knows no
-// page: a wizard is one table of these rows and a few hooks.
+// What a page is to the engine, and the book of pages that a wizard hands to the form. The engine knows no
+// page and no wizard: a wizard is one table of these rows, a few properties and a few hooks.
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 
 class frmWizard;
+
+namespace win {
+class PictureArea;
+}
 
 enum class Move : std::int8_t { Next, Back, Skip };
 
@@ -29,11 +34,19 @@ struct Page {
     const wchar_t* nextCaption;
     Show skip;
     Show back;
+    // Looks up what `build` shows and what may take its time (files, folders, ports); null: nothing to do.
+    // The page before is still to be seen, under an hourglass.
+    void (*prepare)(frmWizard&) = nullptr;
 };
 
 struct PageBook {
     std::span<const Page> pages;
+    std::size_t icon;                                  // of the window: element of frmWizard::imgIconDevice
+    win::PictureArea frmWizard::*picture;              // beside the pages
+    bool hasSteps;                                     // a step counter beside the heading
+    bool hasSkip;                                      // a Skip button
     bool keepsProgress;                                // FTSW_MaxProgress and the tip on the header
+    std::int16_t anotherPage;                          // where Back leads while its caption is kNewCaption
     void (*load)(frmWizard&);                          // the form is being loaded
     void (*beforeShow)(frmWizard&);                    // captions are set, the builder comes next
     bool (*takesOverNext)(frmWizard&);                 // true: the page has acted, nothing else is to run
@@ -55,12 +68,11 @@ constexpr const Page* FindPage(std::span<const Page> pages, std::int16_t number)
     return nullptr;
 }
 
-constexpr const Detour& DetourOf(const Page& page, Move move) {
-    return move == Move::Next ? page.onNext : move == Move::Back ? page.onBack : page.onSkip;
-}
+constexpr std::int16_t PlainStep(Move move) { return move == Move::Back ? -1 : 1; }
 
-// Where a move from `page` arrives when its detour, if it has one, is taken or not.
-constexpr std::int16_t Arrival(const Page& page, Move move, bool detour) {
-    const int step = move == Move::Back ? -1 : 1;
-    return static_cast<std::int16_t>(page.number + (detour ? DetourOf(page, move).pages : 0) + step);
+// Where a move from `page` leads now. Its leave action has run: it may decide whether a detour is taken.
+constexpr std::int16_t Arrival(const Page& page, Move move) {
+    const Detour& detour = move == Move::Next ? page.onNext : move == Move::Back ? page.onBack : page.onSkip;
+    const bool isTaken = !detour.condition || detour.condition();
+    return static_cast<std::int16_t>(page.number + (isTaken ? detour.pages : 0) + PlainStep(move));
 }

@@ -73,13 +73,11 @@ std::int16_t frmMessage::Show(const std::wstring& message, std::int16_t buttons,
     const MessageScreen screen{AreaOf(win::WorkArea()), win::Dpi(), GetSystemMetrics(SM_CYCAPTION)};
     PlaceControls(LayOutMessage(size, SetOf(buttons).count, screen, AreaOf(owner)));
     SetButtons(buttons);
-    win::FormattedText text(message);
-    FormatText(text);
-    txtMessage.SetText(text);
+    txtMessage.Text(message);
+    FormatText(txtMessage);
+    txtMessage.ScrollToTop();
     SetWindowTextW(Hwnd(), title.empty() ? kApplicationTitle : (locations.ExeName + L" - " + title).c_str());
-    cmdButton[0].Focus();
-    // The program waits, whether the caller names a window or not.
-    ShowModal(owner ? owner : GetActiveWindow() == Hwnd() ? nullptr : GetActiveWindow());
+    ShowModal(owner, cmdButton[0]);
     return result_;
 }
 
@@ -103,6 +101,45 @@ void frmMessage::SetButtons(std::int16_t buttons) {
     txtMessage.Visible(true);
     picMessage.Visible(true);
     DefaultButton(cmdButton[0]);
+}
+
+void frmMessage::FormatText(win::RichText& message) {
+    FormatBold(message);
+    FormatBreaks(message);
+    FormatItalic(message);
+    FormatIndent(message);
+    FormatBullet(message);
+}
+
+void frmMessage::FormatBold(win::RichText& message) { RunPass(message, kBoldPass); }
+
+// The size read first is not used, here and in two passes below: it belongs to the accesses to the control
+// that the suite's renderers have in common.
+void frmMessage::FormatBreaks(win::RichText& message) {
+    constexpr std::wstring_view kBreak = L"<br>";
+    constexpr std::int16_t kBreakFontSize = 3;
+    static_cast<void>(message.SelFontSize());
+    std::int16_t start = 0;
+    while (const auto position = FindTag(message.Text(), kBreak, start)) {
+        start = *position;
+        message.SelStart(start);
+        message.SelLength(static_cast<std::int32_t>(kBreak.size()));
+        message.SelFontSize(kBreakFontSize);
+        message.SelText(L"\r\n");
+        message.SelLength(0);
+    }
+}
+
+void frmMessage::FormatItalic(win::RichText& message) { RunPass(message, kItalicPass); }
+
+void frmMessage::FormatIndent(win::RichText& message) {
+    static_cast<void>(message.SelFontSize());
+    RunPass(message, kIndentPass);
+}
+
+void frmMessage::FormatBullet(win::RichText& message) {
+    static_cast<void>(message.SelFontSize());
+    RunPass(message, kMessageBulletPass);
 }
 
 void frmMessage::cmdButton_Click(std::size_t index) {

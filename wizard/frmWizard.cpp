@@ -3,15 +3,16 @@
 #include "app/Registry.h"
 #include "app/Settings.h"
 #include "app/SingleInstance.h"
-#include "app/StartUp.h"
+#include "app/Suite.h"
+#include "app/modLocations.h"
 #include "res/Artwork.h"
+#include "win/Arrangement.h"
 #include "win/Fonts.h"
 #include "win/Screen.h"
+#include "wizard/FormPlace.h"
 #include "wizard/Layout.h"
-#include "wizard/Markup.h"
 #include "wizard/PermissionPage.h"
 
-#include <algorithm>
 #include <cstdlib>
 #include <optional>
 
@@ -36,10 +37,6 @@ enum FrameIds {
     kAppIconId = 140,
 };
 
-constexpr wchar_t kRunOnceKey[] = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\RunOnce";
-constexpr wchar_t kRunOnceValue[] = L"Varnel_DNC_FTSW";
-constexpr const wchar_t* kStartUpKeys[] = {L"RxNameMode", L"RxChangeNameMode", L"NavAutoStart"};
-
 constexpr const wchar_t* kAppNames[] = {L"File Manager", L"Link Manager", L"Configuration", L"Terminal",
                                         L"Navigator"};
 
@@ -48,12 +45,12 @@ void FillArea(HDC dc, win::Twips left, win::Twips top, win::Twips right, win::Tw
     FillRect(dc, &area, brush);
 }
 
-int Luminance(COLORREF colour) {
-    return (299 * GetRValue(colour) + 587 * GetGValue(colour) + 114 * GetBValue(colour)) / 1000;
+int Luminance(COLORREF color) {
+    return (299 * GetRValue(color) + 587 * GetGValue(color) + 114 * GetBValue(color)) / 1000;
 }
 
-// The system's colour of links, or of text where a scheme gives links one that the background swallows.
-COLORREF LinkColour() {
+// The system's color of links, or of text where a scheme gives links one that the background swallows.
+COLORREF LinkColor() {
     constexpr int kReadable = 90; // difference of luminance
     const COLORREF link = GetSysColor(COLOR_HOTLIGHT);
     const int ground = Luminance(GetSysColor(COLOR_WINDOW));
@@ -64,8 +61,9 @@ COLORREF LinkColour() {
 
 } // namespace
 
-frmWizard::frmWizard(const PageBook& book, bool configAllowed)
-    : ConfigAllowed(configAllowed), book_(book), columnBrush_(CreateSolidBrush(kColumnColour)) {
+frmWizard::frmWizard(const PageBook& book, WizardStart start)
+    : ConfigAllowed(start.configAllowed), book_(book), start_(std::move(start)),
+      columnBrush_(CreateSolidBrush(kColumnColour)) {
     win::LoadRichText();
     const win::FormLook look{L"VWizardForm", L"", WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN,
                              WS_EX_CONTROLPARENT, nullptr};
@@ -87,8 +85,7 @@ frmWizard::frmWizard(const PageBook& book, bool configAllowed)
 
 void frmWizard::BindFrame() {
     picHeader.Bind(*this, kHeaderId, L"Static", SS_OWNERDRAW | SS_NOTIFY);
-    // Only one of the modes counts steps beside the heading.
-    const win::Twips headingRight = startUp.WizardMode == kNewDevice ? layout::kStepLeft : layout::kTextRight;
+    const win::Twips headingRight = book_.hasSteps ? layout::kStepLeft : layout::kTextRight;
     picHeader.Place(layout::kColumnWidth, 0_tw, headingRight - layout::kColumnWidth,
                     layout::kHeaderHeight - layout::kLineWidth);
     lblStep.Bind(*this, kStepId, L"Static", SS_RIGHT | SS_NOPREFIX);
@@ -101,7 +98,7 @@ void frmWizard::BindFrame() {
     lblKey.Bind(*this, kKeyId, L"Static", SS_LEFT);
     lblCustInfo.Bind(*this, kCustInfoId, L"Static", SS_LEFT);
     // The first windows made are the first in reading and tab order; the heading names the text behind it.
-    if (startUp.WizardMode == kNewDevice) lblStep.Handle();
+    if (book_.hasSteps) lblStep.Handle();
     picHeader.Handle();
     txtInfo.Handle();
 }
@@ -150,7 +147,7 @@ void frmWizard::BindButtons() {
         row.button->Place(layout::ButtonLeft(--fromRight), layout::kButtonTop, layout::kButtonWidth,
                           layout::kButtonHeight);
         row.button->Text(row.caption);
-        const bool isNeverShown = row.button == &cmdSkip && startUp.WizardMode == kNewDevice;
+        const bool isNeverShown = row.button == &cmdSkip && !book_.hasSkip;
         if (!isNeverShown) row.button->Handle(); // the order in which windows are made is the tab order
     }
     cmdSkip.ToolTip(L"Go on without this step");
@@ -161,10 +158,10 @@ void frmWizard::Form_Load() {
     SetCurrentDirectoryW(locations.AppPath.c_str());
     CleanRunOnce();
     pool.fraContainer.Top(picMain.Top() + 1320_tw);
-    SetWindowTextW(Hwnd(), startUp.WizardTitle.c_str());
+    SetWindowTextW(Hwnd(), start_.title.c_str());
     picCncIcon.Top(600_tw);
     picScreenLogo.Top(picMain.Top() + 720_tw);
-    (startUp.WizardMode == kNewDevice ? picCncIcon : picScreenLogo).Visible(true);
+    (this->*book_.picture).Visible(true);
     picVarnel.Visible(true);
     picLogo.Visible(true);
     book_.load(*this);
@@ -174,18 +171,24 @@ void frmWizard::Form_Load() {
     MoveToItsPlace();
 
     picHeader.Visible(true);
-    txtInfo.SetText(win::FormattedText(L"Initializing..."));
+    txtInfo.Text(L"Initializing...");
     txtInfo.Visible(true);
     ShowWindow(Hwnd(), SW_SHOWNORMAL);
     win::PumpPendingMessages();
 
     WriteStartUpKeys();
     ConfirmExit = true;
+    ShowFirstPage();
+    UpdateWindow(Hwnd());
+    win::DropPendingKeys(); // pressed before there was a page to press them for
     isLoading_ = false;
-    const Arrangement arrangement(*this, PageArea());
+}
+
+void frmWizard::ShowFirstPage() {
+    const win::Arrangement arrangement(*this, PageArea());
     for (std::size_t i = 0; i < picAppIcon.size(); ++i)
         picAppIcon[i].Place(1560_tw + 960_tw * static_cast<int>(i), layout::kAppIconTop, 480_tw, 480_tw);
-    cmdSkip.Visible(startUp.WizardMode == kFirstTimeSetup);
+    cmdSkip.Visible(book_.hasSkip);
     cmdBack.Visible(true);
     cmdNext.Visible(true);
     cmdCancel.Visible(true);
@@ -196,7 +199,7 @@ void frmWizard::Form_Load() {
 }
 
 void frmWizard::ShowModeIcon() {
-    const int icon = IDI_DEVICE + startUp.WizardMode;
+    const int icon = imgIconDevice[book_.icon];
     largeIcon_.emplace(icon, GetSystemMetrics(SM_CXICON));
     smallIcon_.emplace(icon, GetSystemMetrics(SM_CXSMICON));
     // In this order: a large icon by itself would have the system shrink it to a small one.
@@ -206,24 +209,25 @@ void frmWizard::ShowModeIcon() {
 
 // The installer makes the wizard run once at the next log-on; a start by hand takes that back.
 void frmWizard::CleanRunOnce() {
-    if (!ReadRegString(HKEY_LOCAL_MACHINE, kRunOnceKey, kRunOnceValue, L"").empty())
-        DeleteRegValue(HKEY_LOCAL_MACHINE, kRunOnceKey, kRunOnceValue);
+    if (!ReadRegString(HKEY_LOCAL_MACHINE, suite::kRunOnceKey, suite::kRunOnceValue, L"").empty())
+        DeleteRegValue(HKEY_LOCAL_MACHINE, suite::kRunOnceKey, suite::kRunOnceValue);
 }
 
 void frmWizard::MoveToItsPlace() {
     RECT window{};
     GetWindowRect(Hwnd(), &window);
-    const int freeWidth = GetSystemMetrics(SM_CXSCREEN) - (window.right - window.left);
-    const int freeHeight = GetSystemMetrics(SM_CYSCREEN) - (window.bottom - window.top);
-    const int divisor = startUp.ShiftWindow ? 1 : 2;
-    SetWindowPos(Hwnd(), nullptr, freeWidth / divisor, freeHeight / divisor, 0, 0,
-                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    const PixelSize size{window.right - window.left, window.bottom - window.top};
+    const PixelSize screen{GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
+    const RECT free = win::WorkArea();
+    const PixelPoint place =
+        PlaceForm(size, screen, {free.left, free.top, free.right, free.bottom}, start_.shiftWindow);
+    SetWindowPos(Hwnd(), nullptr, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 // Whatever they held before, on every start of either wizard. All three are tried, one failure is told.
 void frmWizard::WriteStartUpKeys() {
     std::optional<win::AppError> refused;
-    for (const wchar_t* key : kStartUpKeys) {
+    for (const wchar_t* key : suite::kStartUpKeys) {
         try {
             WriteIniString(key, L"1");
         } catch (const win::AppError& error) {
@@ -231,24 +235,6 @@ void frmWizard::WriteStartUpKeys() {
         }
     }
     if (refused) win::ShowMessageBox(Hwnd(), refused->Description(), MB_OK | MB_ICONEXCLAMATION);
-}
-
-void frmWizard::WriteHeading(std::wstring_view heading) {
-    picHeader.Text(heading);
-    picHeader.Repaint();
-    // A screen reader speaks the new page although the focus may stay where it is.
-    NotifyWinEvent(EVENT_SYSTEM_ALERT, picHeader.Handle(), OBJID_CLIENT, CHILDID_SELF);
-}
-
-void frmWizard::WriteInfo(std::wstring_view text) {
-    constexpr win::Twips kTallest = layout::kContentBottom - layout::kTextTop;
-    const Arrangement arrangement(*this, PageArea());
-    win::FormattedText formatted(text);
-    FormatInfo(formatted);
-    txtInfo.SetText(formatted);
-    const win::Twips needed = txtInfo.TextHeight();
-    txtInfo.ScrollBar(needed > kTallest);
-    txtInfo.Height(std::min(needed, kTallest));
 }
 
 RECT frmWizard::PageArea() const {
@@ -264,20 +250,22 @@ LRESULT frmWizard::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         PaintBackground(reinterpret_cast<HDC>(wParam));
         return TRUE;
     case WM_ACTIVATE:
+        if (LOWORD(wParam) != WA_INACTIVE) Form_Activate();
+        [[fallthrough]];
     case WM_SETFOCUS: // while loading the text would get the focus, and draw its caret at every step
         if (!isLoading_) break;
         if (message == WM_ACTIVATE && LOWORD(wParam) != WA_INACTIVE) SetFocus(Hwnd());
         return 0;
+    case WM_COMMAND: // keys held down since before the window came up
+        if (isLoading_) return 0;
+        break;
     case WM_CLOSE:
         Unload();
         return 0;
-    case WM_QUERYENDSESSION:
-        return Form_QueryUnload();
+    case WM_QUERYENDSESSION: // an update that only closes the program is not the user's wish to leave
+        return (lParam & ENDSESSION_CLOSEAPP) != 0 || Form_QueryUnload();
     case WM_ENDSESSION:
         if (wParam) Form_Unload();
-        return 0;
-    case WM_SYSCOLORCHANGE:
-        RedrawWindow(Hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
         return 0;
     default:
         break;
@@ -317,7 +305,7 @@ void frmWizard::DrawHeading(const DRAWITEMSTRUCT& item) {
 void frmWizard::DrawLink(win::Control& link, const DRAWITEMSTRUCT& item) {
     FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_WINDOW));
     const HGDIOBJ old = SelectObject(item.hDC, link.Font());
-    SetTextColor(item.hDC, LinkColour());
+    SetTextColor(item.hDC, LinkColor());
     SetBkMode(item.hDC, TRANSPARENT);
     RECT area = item.rcItem;
     const std::wstring caption = link.Text();

@@ -2,7 +2,7 @@
 
 // The wizard's one window: a fixed frame of header, pictures, page text, inputs and four buttons, into
 // which every page writes itself. frmWizard.cpp makes and paints the frame, Navigation.cpp moves between
-// the pages; what a page shows and does is in the book that start-up hands over.
+// the pages, PageText.cpp writes them; what a page shows and does is in the book that start-up hands over.
 
 #include "res/resource.h"
 #include "win/Control.h"
@@ -10,6 +10,7 @@
 #include "win/PictureArea.h"
 #include "win/RichText.h"
 #include "wizard/InputPool.h"
+#include "wizard/Layout.h"
 #include "wizard/Page.h"
 
 #include <array>
@@ -18,11 +19,18 @@
 #include <string>
 #include <string_view>
 
+// What start-up knows and the form needs.
+struct WizardStart {
+    std::wstring title = {};    // caption of the window
+    bool shiftWindow = false;   // in the lower right corner of the screen
+    bool configAllowed = false; // the user may write the settings folder
+};
+
 class frmWizard : public win::Form {
   public:
-    // Wires the controls; the window is made, hidden. `configAllowed`: the user may write the settings
-    // folder.
-    frmWizard(const PageBook& book, bool configAllowed);
+    // Wires the controls; the window is made, hidden. `book` must outlive the form.
+    frmWizard(const PageBook& book, WizardStart start);
+    ~frmWizard() override { Destroy(); }
 
     // Lays out and shows the window, cleans up after the installer, writes the start-up keys and shows the
     // first page (or the permission page).
@@ -34,7 +42,8 @@ class frmWizard : public win::Form {
     win::PictureArea picLogo{IDB_LOGO};
     win::PictureArea picScreenLogo{IDB_SCREEN_LOGO}; // First-Time Setup Wizard
     win::PictureArea picVarnel{IDB_VARNEL};
-    win::PictureArea picCncIcon{IDB_CNC_ICON}; // New Device Wizard
+    win::PictureArea picCncIcon{IDB_CNC_ICON};                                     // New Device Wizard
+    static constexpr std::array<int, 2> imgIconDevice{IDI_DEVICE, IDI_DEVICE + 1}; // resources, one a wizard
     std::array<win::IconArea, 5> picAppIcon;
     win::Label lblStep;
     win::Label lblKey;
@@ -58,8 +67,18 @@ class frmWizard : public win::Form {
 
     // For page builders.
     void WriteHeading(std::wstring_view heading);
-    // The page's whole text with its mark-up; the text area becomes as high as the text needs.
-    void WriteInfo(std::wstring_view text);
+    // The page's whole text with its mark-up. The text area becomes as high as the text needs, up to
+    // `tallest`; beyond that it gets a scroll bar.
+    void WriteInfo(std::wstring_view text, win::Twips tallest = layout::kTallestText);
+    // Tells of a settings file that refused a write: once a click, however many writes it makes.
+    void TellOfRefusedWrite(const std::wstring& description);
+
+    // The mark-up of txtInfo (wizard/Markup.h).
+    void ResetInfo();  // two blanks in the plain look
+    void FormatInfo(); // the passes below, in this order
+    void FormatInfoRed();
+    void FormatInfoBold();
+    void FormatInfoBullet();
 
     // Moving between pages: the only door.
     void cmdNext_Click();
@@ -69,6 +88,8 @@ class frmWizard : public win::Form {
     void lblHyperlink_Click(std::int16_t index);
     void ShowPage();
     void LeavePage();
+
+    void Form_Activate() {} // a page stays as it is when the window comes to the front
 
     // Ends as the close box would: asks first where that is due, returns when the answer is No.
     void Unload();
@@ -86,11 +107,13 @@ class frmWizard : public win::Form {
     void BindPictures();
     void BindButtons();
     void ShowModeIcon();
+    void ShowFirstPage();
     void MoveToItsPlace();
     void CleanRunOnce();
     void WriteStartUpKeys();
     RECT PageArea() const; // what a page may change: all but the pictures at the left
     void PaintBackground(HDC dc);
+    Move PresentMove() const;
     void SkipToNextPage();
     void KeepProgress();
 
@@ -98,9 +121,11 @@ class frmWizard : public win::Form {
     void DrawLink(win::Control& link, const DRAWITEMSTRUCT& item);
 
     const PageBook& book_;
+    const WizardStart start_;
     win::UniqueBrush columnBrush_;
     std::optional<win::IconPicture> largeIcon_, smallIcon_; // of the mode
-    bool isLoading_ = true;
+    bool isLoading_ = true;                                 // no page is shown yet: nothing can be pressed
+    bool toldOfRefusedWrite_ = false;
     bool nextBusy_ = false; // one for each handler: a click that arrives while it runs is dropped
     bool backBusy_ = false;
     bool skipBusy_ = false;

@@ -214,7 +214,7 @@ void InProcess(const Walk& walk, const PageBook& book, void (*act)(frmWizard&, c
     wchar_t before[MAX_PATH] = L"";
     GetCurrentDirectoryW(MAX_PATH, before);
     SetCurrentDirectoryW(walk.suite.Folder().c_str());
-    frmWizard form(book, true);
+    frmWizard form(book, {.configAllowed = true});
     form.ConfigName = L"Mill 3 \x00E4";
     act(form, text);
     SetCurrentDirectoryW(before);

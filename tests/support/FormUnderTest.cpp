@@ -36,7 +36,7 @@ std::wstring NoteAt(win::RichText& control, LONG position) {
 
 } // namespace
 
-FormUnderTest::FormUnderTest(std::int16_t mode) : book(BookOf(mode)), form(book, true) {
+FormUnderTest::FormUnderTest(std::int16_t mode) : book(BookOf(mode)), form(book, {.configAllowed = true}) {
     book.load(form);
     form.picHeader.Visible(true);
     form.txtInfo.Visible(true);

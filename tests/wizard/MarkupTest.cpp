@@ -1,16 +1,43 @@
 #include "wizard/Markup.h"
 
-#include "tests/wizard/Described.h"
+#include "tests/support/FormUnderTest.h"
+#include "wizard/frmMessage.h"
 
 #include <gtest/gtest.h>
 
-using Pass = void (*)(win::FormattedText&);
+#include <stdexcept>
 
-// A "+" is typed behind the last element: that tells what its end has reset.
+namespace {
+
+enum Renderer { kPage, kRed, kBold, kBullet, kMessage, kItalic, kIndent };
+
+void Render(FormUnderTest& page, frmMessage& box, Renderer renderer) {
+    win::RichText& message = box.txtMessage;
+    switch (renderer) {
+    case kPage:
+        return page.form.FormatInfo();
+    case kRed:
+        return page.form.FormatInfoRed();
+    case kBold:
+        return page.form.FormatInfoBold();
+    case kBullet:
+        return page.form.FormatInfoBullet();
+    case kMessage:
+        return box.FormatText(message);
+    case kItalic:
+        return box.FormatItalic(message);
+    case kIndent:
+        return box.FormatIndent(message);
+    }
+}
+
+} // namespace
+
+// A "+" is typed behind the last element: that tells what its end has reset. Each row finds the look of the
+// row before it in the control.
 TEST(Markup, Renders) {
-    constexpr Pass kPage = FormatInfo, kMessage = FormatText;
     struct Row {
-        Pass pass;
+        Renderer renderer;
         std::wstring_view text;
         std::wstring_view rendered; // as Described()
     };
@@ -31,6 +58,9 @@ TEST(Markup, Renders) {
         {kPage,    L"<B>a</B><b>b</B>",                       L"<B>a</B>b</B>"},
         {kPage,    L"<i>a</i><br><l>b</l>",                   L"<i>a</i><br><l>b</l>"},
         {kPage,    L"<b<b>>a</b>",                            L"<b{b}>a"},
+        {kRed,     L"<r>a</r>",                               L"{r}a{}+"},
+        {kBold,    L"<b>a</b>",                               L"{b}a{}+"},
+        {kBullet,  L"<u>a</u>",                               L"{* 150 150}a+"},
         {kMessage, L"<b>a</b> <i>b</i> c",                    L"{b}a{} {i}b{} c"},
         {kMessage, L"one<br>two<br><br>three",                L"one{3}/{}two{3}//{}three"},
         {kMessage, L"<b>a<br>b</b>",                          L"{b}a{b3}/{b}b"},
@@ -39,27 +69,47 @@ TEST(Markup, Renders) {
         {kMessage, L"<u>a</u>\r\nb",                          L"{* 150 150}a/{}b"},
         {kMessage, L"<r>a</r></br><I>b</I>",                  L"<r>a</r></br><I>b</I>"},
         {kMessage, L"<b><i>a</i></b>",                        L"{bi}a{i}+"},
-        {FormatInfoRed,    L"<r>a</r>",                       L"{r}a{}+"},
-        {FormatInfoBold,   L"<b>a</b>",                       L"{b}a{}+"},
-        {FormatInfoBullet, L"<u>a</u>",                       L"{* 150 150}a+"},
-        {FormatItalic,     L"<i>a</i>",                       L"{i}a+"},
-        {FormatIndent,     L"<l>a</l>",                       L"{ 150 250}a+"},
+        {kItalic,  L"<i>a</i>",                               L"{i}a+"},
+        {kIndent,  L"<l>a</l>",                               L"{ 150 250}a+"},
     };
     // clang-format on
+    FormUnderTest page(1);
+    frmMessage box;
     for (const Row& row : rows) {
-        win::FormattedText text(row.text);
-        row.pass(text);
+        win::RichText& text = row.renderer < kMessage ? page.form.txtInfo : box.txtMessage;
+        text.Text(row.text);
+        Render(page, box, row.renderer);
         if (row.rendered.ends_with(L'+')) text.SelText(L"+");
         EXPECT_EQ(Described(text), row.rendered) << testing::PrintToString(row.text);
     }
 }
 
 TEST(Markup, PositionsHave16Bits) {
-    win::FormattedText control(std::wstring(32766, L'x') + L"<b>a");
-    FormatInfo(control);
-    EXPECT_EQ(control.Text().size(), 32767u);
-    control.SetText(std::wstring(32767, L'x') + L"<b>a");
-    EXPECT_THROW(FormatInfo(control), std::overflow_error);
-    control.SetText(L"<i>" + std::wstring(32767, L'x') + L"</i>");
-    EXPECT_THROW(FormatText(control), std::overflow_error);
+    std::wstring text;
+    while (text.size() < 32766)
+        text += L"word ";
+    text.resize(32766);
+    EXPECT_EQ(FindTag(text + L"<b>", L"<b>", 0), 32766);
+    EXPECT_THROW(FindTag(text + L" <b>", L"<b>", 0), std::overflow_error);
+    EXPECT_EQ(FindTag(text + L" <b>", L"<r>", 0), std::nullopt);
+}
+
+// Whatever look was there; what a person typed has no tags; nothing stays selected.
+TEST(Markup, OfAPage) {
+    FormUnderTest test(1);
+    win::RichText& text = test.form.txtInfo;
+    text.Text(L"abc");
+    text.SelStart(1);
+    text.SelLength(2);
+    text.SelItalic(true);
+    test.form.WriteInfo(L"<b>a" + WithoutTags(L"<r>D</r>") + L"</b>\r\n<u>b</u>\r\nc");
+    EXPECT_EQ(text.Send(EM_GETFIRSTVISIBLELINE), 0);
+    CHARRANGE range{9, 9};
+    text.Send(EM_EXGETSEL, 0, reinterpret_cast<LPARAM>(&range));
+    EXPECT_EQ(range.cpMin + range.cpMax, 0);
+    EXPECT_EQ(Described(text), L"{b}a<r>D</r>{}/{* 150 150}b/{}c");
+    test.Show(4);
+    test.form.PageNo = 99;
+    test.form.ShowPage();
+    EXPECT_EQ(Described(text), L"  ");
 }

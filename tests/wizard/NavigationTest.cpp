@@ -28,7 +28,7 @@ class Navigation : public testing::Test {
         form.ShowPage();
     }
     ScratchSuite suite;
-    frmWizard form{FtwBook(), true};
+    frmWizard form{FtwBook(), {.title = L"Varnel test load", .configAllowed = true}};
 };
 
 } // namespace
@@ -69,7 +69,6 @@ TEST_F(Navigation, LoadingTheForm) {
     constexpr wchar_t kRunOnce[] = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\RunOnce";
     SetRegText(HKEY_LOCAL_MACHINE, kRunOnce, L"Varnel_DNC_FTSW", L"x");
     suite.Ini("[General]\r\nRxNameMode=7\r\nOther=2\r\n");
-    startUp.WizardTitle = L"Varnel test load";
     form.Form_Load();
     EXPECT_EQ(win::WindowText(form.Hwnd()), L"Varnel test load");
     EXPECT_EQ(ReadIniString(L"General", L"RxNameMode", L""), L"1");
