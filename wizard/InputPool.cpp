@@ -148,6 +148,12 @@ win::Link& InputColumn::Link(std::size_t index, std::wstring_view caption) {
     return link;
 }
 
+void InputColumn::Links(std::span<const LinkRow> links, std::int16_t page) {
+    for (const LinkRow& link : links)
+        if (link.page == page && link.caption)
+            Link(static_cast<std::size_t>(std::max<int>(0, link.index)), link.caption);
+}
+
 void InputColumn::Options(std::span<const std::wstring_view> captions, std::int16_t selected) {
     for (std::size_t i = 0; i < captions.size(); ++i)
         Option(i, captions[i], static_cast<std::int16_t>(i) == selected);

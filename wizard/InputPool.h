@@ -7,6 +7,7 @@
 #include "win/Control.h"
 #include "win/RichText.h"
 #include "wizard/Layout.h"
+#include "wizard/Links.h"
 
 #include <array>
 #include <span>
@@ -57,6 +58,8 @@ class InputColumn {
     win::ListBox& List(std::size_t index, win::Twips height);                    // as many whole lines as fit
     win::ComboBox& DropDown();
     win::Link& Link(std::size_t index, std::wstring_view caption);
+    // The rows of `links` that have a caption and belong to `page`.
+    void Links(std::span<const LinkRow> links, std::int16_t page);
 
     // All options, the one at `selected` chosen; likewise all boxes by the bits of `checked`, and the
     // drop-down list filled with `items`.
