@@ -1,6 +1,6 @@
 #include "app/Registry.h"
 
-#include "app/Text.h"
+#include "app/CodePage.h"
 #include "win/Handles.h"
 
 #include <optional>

@@ -1,8 +1,8 @@
 #include "app/Settings.h"
 
+#include "app/CodePage.h"
 #include "app/IniRoom.h"
 #include "app/Names.h"
-#include "app/Text.h"
 #include "app/modLocations.h"
 
 #include <windows.h>

@@ -3,6 +3,7 @@
 #include "app/Files.h"
 #include "app/Paths.h"
 #include "app/Registry.h"
+#include "app/SpecialFolders.h"
 
 #include <windows.h>
 
@@ -71,11 +72,8 @@ void InitLocations() {
     locations.IconsPath = FolderExists(icons) ? icons : locations.AppPath;
 }
 
-// The path is asked for directly: by way of an item list the shell would look at each folder above it.
 std::wstring GetSpecialFolder(int csidl) {
-    wchar_t path[MAX_PATH] = L"";
-    const bool found = SHGetFolderPathW(nullptr, csidl, nullptr, SHGFP_TYPE_CURRENT, path) == S_OK;
-    return found && path[0] ? WithBackslash(path) : std::wstring();
+    return WithBackslash(SpecialFolderPath(nullptr, csidl).value_or(L"")); // some paths have one already
 }
 
 std::wstring ConfigurationFile(std::wstring_view name) {

@@ -1,9 +1,9 @@
 // Pages of the First-Time Setup Wizard about where the CNC programs lie.
 
+#include "app/CodePage.h"
 #include "app/Files.h"
 #include "app/Names.h"
 #include "app/Settings.h"
-#include "app/Text.h"
 #include "ftw/FtwPages.h"
 #include "ftw/TransmitRoot.h"
 #include "wizard/Markup.h"

@@ -1,6 +1,6 @@
 #include "ndw/AnswerText.h"
 
-#include "app/Text.h"
+#include "app/CodePage.h"
 #include "wizard/frmWizard.h"
 
 void RefuseText(frmWizard& form, win::TextBox& box, const std::wstring& message) {

@@ -1,6 +1,6 @@
 #include "ndw/DcpFile.h"
 
-#include "app/Text.h"
+#include "app/CodePage.h"
 #include "ndw/modDcp.h"
 #include "win/Handles.h"
 

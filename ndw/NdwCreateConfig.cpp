@@ -1,8 +1,8 @@
 #include "ndw/NdwCreateConfig.h"
 
+#include "app/CodePage.h"
 #include "app/Files.h"
 #include "app/Names.h"
-#include "app/Text.h"
 #include "app/modLocations.h"
 #include "ndw/DcpFile.h"
 #include "ndw/NdwPages.h"

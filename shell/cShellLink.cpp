@@ -1,8 +1,8 @@
 #include "shell/cShellLink.h"
 
+#include "app/CodePage.h"
 #include "app/Com.h"
 #include "app/Names.h"
-#include "app/Text.h"
 
 #include <objbase.h>
 #include <shlobj.h>
