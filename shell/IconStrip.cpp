@@ -7,6 +7,14 @@
 namespace {
 
 constexpr wchar_t kDefaultKey[] = L"VDNC32";
+constexpr std::uint32_t kPauseBetweenWords_ms = 1000;
+constexpr int kNotch = 120; // what the system reports for one notch of the wheel
+
+bool BeginsWith(std::wstring_view key, std::wstring_view letters, wchar_t (*upper)(wchar_t)) {
+    return key.size() >= letters.size() &&
+           std::equal(letters.begin(), letters.end(), key.begin(),
+                      [upper](wchar_t a, wchar_t b) { return upper(a) == upper(b); });
+}
 
 } // namespace
 
@@ -24,13 +32,26 @@ IconStrip ClickSlot(IconStrip strip, std::int16_t slot) {
     return strip;
 }
 
+IconStrip InView(IconStrip strip) {
+    if (strip.selected < strip.scroll) return ScrollTo(strip, strip.selected);
+    return ScrollTo(strip, std::max<std::int32_t>(strip.scroll, strip.selected - kIconSlots + 1));
+}
+
+IconStrip Choose(IconStrip strip, std::int32_t position) {
+    if (strip.count < 1) return strip;
+    strip.selected = static_cast<std::int16_t>(std::clamp<std::int32_t>(position, 1, strip.count));
+    return InView(strip);
+}
+
 IconStrip MoveLeft(IconStrip strip) {
+    strip = InView(strip);
     if (strip.selected <= 1) return strip;
     --strip.selected;
     return strip.selected < strip.scroll ? Scroll(strip, ScrollStep::LineLeft) : strip;
 }
 
 IconStrip MoveRight(IconStrip strip) {
+    strip = InView(strip);
     if (strip.selected >= strip.count) return strip;
     ++strip.selected;
     return strip.selected > strip.scroll + kIconSlots - 1 ? Scroll(strip, ScrollStep::LineRight) : strip;
@@ -76,6 +97,30 @@ std::optional<std::int16_t> PositionInSlot(const IconStrip& strip, std::int16_t 
     const int position = strip.scroll + slot - 1;
     if (position > strip.count) return std::nullopt;
     return static_cast<std::int16_t>(position);
+}
+
+void TypedLetters::Add(wchar_t letter, std::uint32_t letterTime_ms) {
+    if (letterTime_ms - time_ms > kPauseBetweenWords_ms) letters.clear();
+    letters += letter;
+    time_ms = letterTime_ms;
+}
+
+std::optional<std::int16_t> FindByLetters(const std::vector<std::wstring>& keys, std::int16_t selected,
+                                          std::wstring_view letters, wchar_t (*upper)(wchar_t)) {
+    const std::size_t begin = letters.size() > 1 ? 0 : 1; // 1: behind the chosen one
+    for (std::size_t i = begin; i < keys.size() + begin; ++i) {
+        const std::size_t index = (static_cast<std::size_t>(selected - 1) + i) % keys.size();
+        if (BeginsWith(keys[index], letters, upper)) return static_cast<std::int16_t>(index + 1);
+    }
+    const bool isRepeated = letters.size() > 1 && letters.find_first_not_of(letters[0]) == letters.npos;
+    return isRepeated ? FindByLetters(keys, selected, letters.substr(0, 1), upper) : std::nullopt;
+}
+
+int WheelIcons(int& rest, int turned, unsigned iconsPerNotch) {
+    rest -= turned * static_cast<int>(std::min<unsigned>(iconsPerNotch, kIconSlots));
+    const int icons = rest / kNotch;
+    rest -= icons * kNotch;
+    return icons;
 }
 
 std::int16_t DefaultPosition(const std::vector<std::wstring>& keys) {

@@ -1,11 +1,12 @@
 #pragma once
 
-// What the icon picker shows and which icon is chosen, as the mouse and the keys change it. Positions in
+// What the icon picker shows and which icon is chosen, as mouse, wheel and keys change it. Positions in
 // the list and slots of the strip count from 1. With an empty list every operation changes nothing.
 
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 inline constexpr std::int16_t kIconSlots = 6;
@@ -27,7 +28,14 @@ IconStrip OpenStrip(std::int16_t count, std::int16_t selected);
 // scrolled.
 IconStrip ClickSlot(IconStrip strip, std::int16_t slot);
 
-// The arrow keys: one position on, and the strip follows by one when the chosen icon has left it.
+// The strip scrolled no further than the chosen icon needs to be seen.
+IconStrip InView(IconStrip strip);
+
+// The icon at `position`, or at the end of the list that is nearer to it, is chosen and brought into view.
+IconStrip Choose(IconStrip strip, std::int32_t position);
+
+// The arrow keys: the chosen icon is brought into view, then the choice goes one position on, and the strip
+// follows by one when the new one has left it.
 IconStrip MoveLeft(IconStrip strip);
 IconStrip MoveRight(IconStrip strip);
 
@@ -45,6 +53,24 @@ std::optional<std::int16_t> SelectedSlot(const IconStrip& strip);
 
 // The position shown in a slot; none for a slot behind the end of the list.
 std::optional<std::int16_t> PositionInSlot(const IconStrip& strip, std::int16_t slot);
+
+// What is typed to find an icon by its name: letters that follow each other within a second are one word.
+struct TypedLetters {
+    std::wstring letters;
+    std::uint32_t time_ms = 0; // of the last one; may run over
+
+    void Add(wchar_t letter, std::uint32_t letterTime_ms);
+};
+
+// The next icon behind the chosen one, round the end of the list, whose name begins with `letters`; with two
+// letters and more the chosen one itself goes first. One letter typed again and again walks from name to
+// name. Nothing when no name fits. `upper` gives the capital of a character.
+std::optional<std::int16_t> FindByLetters(const std::vector<std::wstring>& keys, std::int16_t selected,
+                                          std::wstring_view letters, wchar_t (*upper)(wchar_t));
+
+// By how many icons the wheel scrolls. `rest` keeps what has been turned short of one icon; a notch is worth
+// `iconsPerNotch`, the strip's length at most. Turning towards oneself (`turned` below 0) scrolls right.
+int WheelIcons(int& rest, int turned, unsigned iconsPerNotch);
 
 // The position to begin with: that of the suite's own icon, "VDNC32" in capitals or not, else the first.
 std::int16_t DefaultPosition(const std::vector<std::wstring>& keys);

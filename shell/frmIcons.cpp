@@ -5,6 +5,8 @@
 #include "win/Screen.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace {
 
@@ -53,6 +55,23 @@ std::wstring AsCaption(const std::wstring& name) {
     return caption;
 }
 
+// Keys that the form has a use for, wherever the focus is.
+bool ChoosesIcon(WPARAM key) {
+    constexpr WPARAM kKeys[] = {VK_LEFT, VK_RIGHT, VK_HOME, VK_END, VK_PRIOR, VK_NEXT};
+    return std::find(std::begin(kKeys), std::end(kKeys), key) != std::end(kKeys);
+}
+
+wchar_t UpperCase(wchar_t c) {
+    CharUpperBuffW(&c, 1);
+    return c;
+}
+
+UINT WheelSetting(UINT parameter) {
+    UINT value = 3; // as the system comes
+    SystemParametersInfoW(parameter, 0, &value, 0);
+    return value;
+}
+
 void DrawFrame(HDC dc, RECT area) {
     for (int i = win::Px(kFrame); i > 0; --i) {
         FrameRect(dc, &area, GetSysColorBrush(COLOR_HIGHLIGHT));
@@ -63,12 +82,11 @@ void DrawFrame(HDC dc, RECT area) {
 } // namespace
 
 bool ArrowButton::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
-    const bool isArrow = wParam == VK_LEFT || wParam == VK_RIGHT;
     if (message == WM_GETDLGCODE) {
-        result = SystemProcedure(message, wParam, lParam) | DLGC_WANTARROWS;
+        result = SystemProcedure(message, wParam, lParam) | DLGC_WANTARROWS | DLGC_WANTCHARS;
         return true;
     }
-    if (message != WM_KEYDOWN || !isArrow) return false;
+    if (!(message == WM_KEYDOWN && ChoosesIcon(wParam)) && message != WM_CHAR) return false;
     result = SendMessageW(GetParent(Handle()), message, wParam, lParam);
     return true;
 }
@@ -101,6 +119,7 @@ void frmIcons::BindControls() {
 
 void frmIcons::OpenForm(const std::wstring& folder, HWND owner) {
     result_.clear();
+    folder_ = folder;
     const std::vector<std::wstring> keys = IconKeys(folder);
     {
         const Disabled meanwhile(owner);
@@ -188,8 +207,9 @@ void frmIcons::ShowScrollBar() {
     info.cbSize = sizeof info;
     info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
     info.nMin = 1;
-    info.nMax = ScrollMaximum(strip_.count);
-    info.nPage = 1;
+    info.nMax = strip_.count;
+    info.nPage =
+        kIconSlots; // the system takes it off the end of the range: ScrollMaximum() is the last place
     info.nPos = strip_.scroll;
     if (NeedsScrollBar(strip_.count)) SetScrollInfo(hScrollIcons.Handle(), SB_CTL, &info, TRUE);
 }
@@ -236,8 +256,39 @@ void frmIcons::hScrollIcons_Change(WORD code) {
 }
 
 void frmIcons::Form_KeyDown(WPARAM key) {
-    if (key == VK_LEFT) Show(MoveLeft(strip_));
-    if (key == VK_RIGHT) Show(MoveRight(strip_));
+    // clang-format off
+    switch (key) {
+    case VK_LEFT:  return Show(MoveLeft(strip_));
+    case VK_RIGHT: return Show(MoveRight(strip_));
+    case VK_HOME:  return Show(Choose(strip_, 1));
+    case VK_END:   return Show(Choose(strip_, strip_.count));
+    case VK_PRIOR: return Show(Choose(strip_, strip_.selected - kIconSlots));
+    case VK_NEXT:  return Show(Choose(strip_, strip_.selected + kIconSlots));
+    default: return;
+    }
+    // clang-format on
+}
+
+// A blank is no letter: it presses the button that has the focus.
+void frmIcons::Form_KeyPress(wchar_t letter) {
+    if (letter <= L' ') return;
+    typed_.Add(letter, static_cast<std::uint32_t>(GetMessageTime()));
+    const auto found = FindByLetters(icons_->Keys(), strip_.selected, typed_.letters, UpperCase);
+    if (found) Show(Choose(strip_, *found));
+}
+
+void frmIcons::Form_MouseWheel(int turned, UINT iconsPerNotch) {
+    const int icons = WheelIcons(wheelRest_, turned, iconsPerNotch);
+    if (icons != 0) Show(ScrollTo(strip_, strip_.scroll + icons));
+}
+
+// The pictures lie on the ground of the scheme in which they were read. While a file cannot be read again,
+// the old ones stay.
+void frmIcons::Form_SysColorChange() {
+    if (!icons_) return;
+    IconList fresh(folder_, icons_->Keys(), win::Px(kIconSide));
+    if (fresh.Count() == icons_->Count()) icons_ = std::move(fresh);
+    RedrawWindow(Hwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 void frmIcons::cmdOK_Click() {
@@ -252,6 +303,18 @@ LRESULT frmIcons::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_KEYDOWN:
         Form_KeyDown(wParam);
         return 0;
+    case WM_CHAR:
+        Form_KeyPress(static_cast<wchar_t>(wParam));
+        return 0;
+    case WM_MOUSEWHEEL:
+        Form_MouseWheel(GET_WHEEL_DELTA_WPARAM(wParam), WheelSetting(SPI_GETWHEELSCROLLLINES));
+        return 0;
+    case WM_MOUSEHWHEEL: // to the right is above 0
+        Form_MouseWheel(-GET_WHEEL_DELTA_WPARAM(wParam), WheelSetting(SPI_GETWHEELSCROLLCHARS));
+        return 0;
+    case WM_SYSCOLORCHANGE:
+        Form_SysColorChange();
+        break;
     case WM_HSCROLL:
         hScrollIcons_Change(LOWORD(wParam));
         return 0;

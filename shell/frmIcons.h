@@ -1,7 +1,8 @@
 #pragma once
 
-// The icon picker: a small modal window that shows the icon folder six icons at a time. The arrow keys
-// choose wherever the focus is, a double click and Enter accept, Esc gives up.
+// The icon picker: a small modal window that shows the icon folder six icons at a time. Arrows,
+// Home, End, Page Up, Page Down and the first letters of a name choose wherever the focus is, the wheel
+// scrolls, a double click and Enter accept, Esc gives up.
 
 #include "shell/IconList.h"
 #include "shell/IconStrip.h"
@@ -15,7 +16,8 @@
 #include <optional>
 #include <string>
 
-// A push button that leaves the arrow keys to its form, which gets them as its own.
+// A push button that leaves characters and the keys that choose an icon to its form, which gets them as its
+// own.
 class ArrowButton : public win::Button {
   protected:
     void Made() override { InterceptMessages(); }
@@ -36,7 +38,7 @@ class frmIcons : public win::Form {
     // Controls.
     win::Label picIcons;                         // the strip
     std::array<ArrowButton, kIconSlots> imgIcon; // its slots; the caption is the icon's name
-    win::Control hScrollIcons;                   // its value is the position shown in the first slot
+    win::Control hScrollIcons;                   // its position is IconStrip::scroll
     win::Label lblnIcons;
     win::Label lblIconName;
     ArrowButton cmdOK, cmdCancel;
@@ -46,6 +48,9 @@ class frmIcons : public win::Form {
     void imgIcon_DblClick(std::int16_t slot);
     void hScrollIcons_Change(WORD code);
     void Form_KeyDown(WPARAM key);
+    void Form_KeyPress(wchar_t letter);
+    void Form_MouseWheel(int turned, UINT iconsPerNotch); // as WheelIcons() takes them
+    void Form_SysColorChange();
     void cmdOK_Click();
     void cmdCancel_Click();
 
@@ -62,8 +67,11 @@ class frmIcons : public win::Form {
     void ShowScrollBar();
     void MoveFocus();
 
+    std::wstring folder_;
     std::optional<IconList> icons_;
     IconStrip strip_;
+    TypedLetters typed_;
+    int wheelRest_ = 0;
     std::wstring result_;
 };
 
