@@ -9,11 +9,11 @@
 
 namespace {
 
-constexpr std::int16_t kAnyIndex = -1;
+constexpr std::int16_t kAnyLink = -1;
 
 enum class Action { Run, Open, RunWithName };
 
-struct LinkRow {
+struct NdwLinkRow {
     std::int16_t page;
     std::int16_t index;
     Action action;
@@ -21,13 +21,13 @@ struct LinkRow {
 };
 
 // clang-format off
-constexpr LinkRow kLinks[] = {
-    { 1, kAnyIndex, Action::Open,        L"Varnel DNC Setup Reference.PDF"},
+constexpr NdwLinkRow kLinks[] = {
+    { 1, kAnyLink, Action::Open,        L"Varnel DNC Setup Reference.PDF"},
     { 2, 0,         Action::Open,        L"Linkcheck.chm"},
     { 2, 1,         Action::Open,        L"Varnel DNC Setup Reference.pdf"},
     { 2, 2,         Action::Run,         L"VTerminal.exe"},
-    { 9, kAnyIndex, Action::Open,        L"CharCodes.chm"},
-    {10, kAnyIndex, Action::Open,        L"CharCodes.chm"},
+    { 9, kAnyLink, Action::Open,        L"CharCodes.chm"},
+    {10, kAnyLink, Action::Open,        L"CharCodes.chm"},
     {17, 0,         Action::RunWithName, L"VConfig.exe"},
     {17, 1,         Action::Open,        L"TechNotes.chm"},
 };
@@ -36,8 +36,8 @@ constexpr LinkRow kLinks[] = {
 } // namespace
 
 void NdwHyperlink(frmWizard& form, std::int16_t index) {
-    const auto row = std::find_if(std::begin(kLinks), std::end(kLinks), [&](const LinkRow& link) {
-        return link.page == form.PageNo && (link.index == kAnyIndex || link.index == index);
+    const auto row = std::find_if(std::begin(kLinks), std::end(kLinks), [&](const NdwLinkRow& link) {
+        return link.page == form.PageNo && (link.index == kAnyLink || link.index == index);
     });
     if (row == std::end(kLinks)) return;
     switch (row->action) {

@@ -155,6 +155,7 @@ void frmWizard::BindButtons() {
 }
 
 void frmWizard::Form_Load() {
+    isLoading_ = true;
     SetCurrentDirectoryW(locations.AppPath.c_str());
     CleanRunOnce();
     pool.fraContainer.Top(picMain.Top() + 1320_tw);

@@ -42,9 +42,10 @@ class frmWizard : public win::Form {
     win::PictureArea picLogo{IDB_LOGO};
     win::PictureArea picScreenLogo{IDB_SCREEN_LOGO}; // First-Time Setup Wizard
     win::PictureArea picVarnel{IDB_VARNEL};
-    win::PictureArea picCncIcon{IDB_CNC_ICON};                                     // New Device Wizard
-    static constexpr std::array<int, 2> imgIconDevice{IDI_DEVICE, IDI_DEVICE + 1}; // resources, one a wizard
+    win::PictureArea picCncIcon{IDB_CNC_ICON}; // New Device Wizard
     std::array<win::IconArea, 5> picAppIcon;
+    // Of the window, one a wizard: the icons' numbers among the program's resources.
+    static constexpr std::array<int, 2> imgIconDevice{IDI_DEVICE, IDI_DEVICE + 1};
     win::Label lblStep;
     win::Label lblKey;
     win::Label lblCustInfo;
@@ -124,7 +125,8 @@ class frmWizard : public win::Form {
     const WizardStart start_;
     win::UniqueBrush columnBrush_;
     std::optional<win::IconPicture> largeIcon_, smallIcon_; // of the mode
-    bool isLoading_ = true;                                 // no page is shown yet: nothing can be pressed
+
+    bool isLoading_ = false; // no page is shown yet: nothing can be pressed
     bool toldOfRefusedWrite_ = false;
     bool nextBusy_ = false; // one for each handler: a click that arrives while it runs is dropped
     bool backBusy_ = false;
