@@ -6,7 +6,7 @@ packages=(
     g++-mingw-w64-i686-posix cmake ninja-build ccache googletest
     clang libclang-rt-14-dev llvm clang-format clang-tidy cppcheck
     wine wine32:i386 fonts-wine xvfb xauth xdotool
-    imagemagick librsvg2-bin python3 zip unzip
+    imagemagick librsvg2-bin python3 python3-fonttools fonts-dejavu-core zip unzip
 )
 
 installed() {

@@ -29,8 +29,9 @@ make_template() (
     unset DISPLAY WAYLAND_DISPLAY
     # Nothing that outlives this function may keep the lock.
     wineboot -u > /dev/null 2>&1 9>&-
-    # The buttons of title bars are characters of this font.
+    # The buttons of title bars are characters of the one font, bullets of the other.
     cp /usr/share/wine/fonts/marlett.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
+    /usr/bin/python3 -B tools/symbol_font.py "$WINEPREFIX/drive_c/windows/Fonts/symbol.ttf"
     wine reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f > /dev/null 2>&1 9>&-
     wineserver -k 9>&- || true
     wineserver -w 9>&-
