@@ -47,4 +47,12 @@ HFONT FontFor(FontUse use) {
     return made[index].Get();
 }
 
+int LineHeight(HFONT font) {
+    const WindowDc screen(nullptr);
+    const SelectedObject selected(screen.Get(), font);
+    TEXTMETRICW metrics{};
+    GetTextMetricsW(screen.Get(), &metrics);
+    return metrics.tmHeight + metrics.tmExternalLeading;
+}
+
 } // namespace win

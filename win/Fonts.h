@@ -10,4 +10,7 @@ enum class FontUse { Body, Heading, Link, OldStyle }; // Verdana 8, bold 12, und
 
 HFONT FontFor(FontUse use);
 
+// From one line to the next, in pixels.
+int LineHeight(HFONT font);
+
 } // namespace win

@@ -1,7 +1,7 @@
 #include "win/RichText.h"
 
 #include "win/AppError.h"
-#include "win/Handles.h"
+#include "win/Fonts.h"
 #include "win/Screen.h"
 #include "win/SystemLibrary.h"
 
@@ -180,6 +180,27 @@ void RichText::SelRightIndent(std::int16_t twips) {
     SetParagraphs(format);
 }
 
+// Some versions cut a word at the edge when nothing but blanks stands before it on the line. Blanks that do
+// not break are a part of the word.
+void RichText::WrapLongWords() {
+    constexpr wchar_t kNoBreak[] = L"\x00A0";
+    RECT client{};
+    GetClientRect(HandleIfMade(), &client);
+    const std::wstring text = Text() + L'\r';
+    std::size_t line = 0;
+    for (std::size_t end = 0; (end = text.find(L'\r', line)) != text.npos; line = end + 1) {
+        const std::size_t word = text.find_first_not_of(L' ', line);
+        const std::size_t wordEnd = text.find_first_of(L" \r", word);
+        if (word == line || word == end || PlaceOf(static_cast<LONG>(wordEnd) - 1).x <= client.right)
+            continue;
+        for (std::size_t blank = line; blank < word; ++blank) {
+            SelStart(static_cast<std::int32_t>(blank));
+            SelLength(1);
+            SelText(kNoBreak);
+        }
+    }
+}
+
 void RichText::ScrollBar(bool visible) {
     if (std::exchange(hasScrollBar_, visible) != visible) Send(EM_SHOWSCROLLBAR, SB_VERT, visible);
 }
@@ -189,19 +210,15 @@ void RichText::ScrollToTop() {
     Send(EM_SCROLLCARET);
 }
 
-int RichText::LineHeight() const {
-    const WindowDc dc(HandleIfMade());
-    const SelectedObject font(dc.Get(), Font());
-    TEXTMETRICW metrics{};
-    GetTextMetricsW(dc.Get(), &metrics);
-    return metrics.tmHeight + metrics.tmExternalLeading;
+POINTL RichText::PlaceOf(LONG position) const {
+    POINTL place{};
+    Ask(EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&place), position);
+    return place;
 }
 
 Twips RichText::TextHeight() const {
-    POINTL last{};
-    Ask(EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&last), Length());
     constexpr int kSlack = 3; // pixels: the control's own margins
-    return Tw(static_cast<int>(last.y) + LineHeight() + kSlack);
+    return Tw(static_cast<int>(PlaceOf(Length()).y) + LineHeight(Font()) + kSlack);
 }
 
 } // namespace win

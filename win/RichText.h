@@ -38,6 +38,9 @@ class RichText : public Control {
     void SelIndent(std::int16_t twips);
     void SelRightIndent(std::int16_t twips);
 
+    // Lets each word that is too long for a line go on in the next one.
+    void WrapLongWords();
+
     // For a control bound without WS_VSCROLL, whose text then keeps its width whatever its height is.
     void ScrollBar(bool visible);
     // Deselects and shows the first line.
@@ -53,8 +56,8 @@ class RichText : public Control {
     LRESULT Ask(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
         return SendMessageW(HandleIfMade(), message, wParam, lParam);
     }
-    int LineHeight() const; // pixels
-    LONG Length() const;    // of the text, as it is counted
+    LONG Length() const;                 // of the text, as it is counted
+    POINTL PlaceOf(LONG position) const; // pixels
     CHARRANGE Selection() const;
     void Select(LONG start, LONG end);
     void SetCharacters(CHARFORMAT2W format);

@@ -111,7 +111,10 @@ win::TextBox& InputColumn::TextBox(std::size_t index, std::wstring_view text, in
     auto& box = form_.pool.txtUserInput[index];
     box.Limit(limit);
     box.Text(text);
-    Put(box, width_, layout::kTextBoxHeight, layout::kGapBetweenGroups);
+    // As high as its line: the control puts that at its top, however high it is itself.
+    constexpr int kMargins = 3; // pixels, above and below the line
+    const int height = win::LineHeight(box.Font()) + GetSystemMetrics(SM_CYEDGE) * 2 + kMargins;
+    Put(box, width_, win::Tw(height), layout::kGapBetweenGroups);
     return box;
 }
 
@@ -136,12 +139,10 @@ win::Link& InputColumn::Link(std::size_t index, std::wstring_view caption) {
     auto& link = form_.pool.lblHyperlink[index];
     link.Text(caption);
     // Only as wide as its text: the hand and the click end where the words do.
+    const win::WindowDc dc(link.Handle());
+    const win::SelectedObject font(dc.Get(), link.Font());
     SIZE size{};
-    const HDC dc = GetDC(link.Handle());
-    const HGDIOBJ old = SelectObject(dc, link.Font());
-    GetTextExtentPoint32W(dc, caption.data(), static_cast<int>(caption.size()), &size);
-    SelectObject(dc, old);
-    ReleaseDC(link.Handle(), dc);
+    GetTextExtentPoint32W(dc.Get(), caption.data(), static_cast<int>(caption.size()), &size);
     constexpr int kFocusMargin = 4; // pixels
     Put(link, std::min(win::Tw(size.cx + kFocusMargin), layout::kTextWidth), layout::kLinkHeight,
         layout::kGapBetween);

@@ -20,6 +20,7 @@ void frmWizard::WriteInfo(std::wstring_view text, win::Twips tallest) {
     txtInfo.Text(text);
     FormatInfo();
     ShowTypedTags(txtInfo);
+    txtInfo.WrapLongWords();
     txtInfo.ScrollToTop();
     const win::Twips needed = txtInfo.TextHeight();
     txtInfo.ScrollBar(needed > tallest);

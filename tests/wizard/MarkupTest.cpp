@@ -113,3 +113,18 @@ TEST(Markup, OfAPage) {
     test.form.ShowPage();
     EXPECT_EQ(Described(text), L"  ");
 }
+
+// On every version: some cut such a word at the edge of the control.
+TEST(Markup, AWordLongerThanItsLineGoesOnInTheNext) {
+    FormUnderTest test(1);
+    test.form.WriteInfo(L"x\r\n     <b>" + std::wstring(100, L'M') + L" n</b>\r\ny");
+    win::RichText& text = test.form.txtInfo;
+    EXPECT_EQ(text.Text().substr(7), std::wstring(100, L'M') + L" n\ry");
+    RECT area{};
+    GetClientRect(text.Handle(), &area);
+    for (LONG position = 0; position < 111; ++position) {
+        POINTL place{};
+        text.Send(EM_POSFROMCHAR, reinterpret_cast<WPARAM>(&place), position);
+        EXPECT_LT(place.x, area.right) << position;
+    }
+}
