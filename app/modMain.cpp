@@ -1,6 +1,7 @@
 // Where the program starts. The one file of this folder that knows the wizards.
 
 #include "app/CommandLine.h"
+#include "app/Hardening.h"
 #include "app/SingleInstance.h"
 #include "app/StartUp.h"
 #include "app/modSecurity.h"
@@ -13,15 +14,6 @@
 #include <windows.h>
 
 namespace {
-
-// Libraries come from the system's folder, never from the program's or the current one, where anybody who
-// can write there could plant them. Systems that lack the call (before 2011) are left as they are.
-void RefusePlantedLibraries() {
-    using Set = BOOL(WINAPI*)(DWORD);
-    const FARPROC found = GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "SetDefaultDllDirectories");
-    if (found) reinterpret_cast<Set>(reinterpret_cast<void*>(found))(LOAD_LIBRARY_SEARCH_SYSTEM32);
-    SetDllDirectoryW(L"");
-}
 
 void ReadCommandLine(const wchar_t* text) {
     const CommandLine line = ParseCommandLine(text);
@@ -58,6 +50,7 @@ void Main(const wchar_t* commandLine) {
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR commandLine, int) {
     RefusePlantedLibraries();
+    RefuseSystemBoxes();
     try {
         Main(commandLine);
     } catch (const win::AppError& error) {
