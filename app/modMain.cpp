@@ -3,7 +3,7 @@
 #include "app/CommandLine.h"
 #include "app/Hardening.h"
 #include "app/SingleInstance.h"
-#include "app/StartUp.h"
+#include "app/modLocations.h"
 #include "app/modSecurity.h"
 #include "ftw/FtwPages.h"
 #include "ndw/NdwPages.h"
@@ -15,14 +15,6 @@
 
 namespace {
 
-void ReadCommandLine(const wchar_t* text) {
-    const CommandLine line = ParseCommandLine(text);
-    startUp.WizardMode = line.wizardMode;
-    startUp.ConfigLaunch = line.configLaunch;
-    startUp.ShiftWindow = line.shiftWindow;
-    startUp.WizardTitle = line.wizardTitle;
-}
-
 void RunMessageLoop() {
     MSG message{};
     while (GetMessageW(&message, nullptr, 0, 0) > 0)
@@ -31,11 +23,11 @@ void RunMessageLoop() {
 
 void Main(const wchar_t* commandLine) {
     InitLocations();
-    ReadCommandLine(commandLine);
+    startUp = ParseCommandLine(commandLine);
     InstanceClaim claim;
     if (FindRunningWizard(startUp.WizardTitle) || !claim.Take(startUp.WizardMode, startUp.WizardTitle))
         return;
-    startUp.SamplesFolder = locations.ProgramFolder + L"Samples\\";
+    startUp.SamplesFolder = locations.SamplesPath;
     startUp.MessageTitlePrefix = L"VWizard - ";
     TestConfigAccess();
     frmWizard form(startUp.WizardMode == kNewDevice ? NdwBook() : FtwBook(), configAccess.ConfigWritable);
