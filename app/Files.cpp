@@ -1,7 +1,7 @@
 #include "app/Files.h"
 
+#include "app/Blanks.h"
 #include "app/Com.h"
-#include "app/Names.h"
 #include "app/Paths.h"
 #include "win/Handles.h"
 
@@ -59,14 +59,13 @@ bool FolderExists(const std::wstring& path) {
 std::vector<std::wstring> ListFiles(const std::wstring& folder, const std::wstring& extension) {
     std::vector<std::wstring> names;
     WIN32_FIND_DATAW found{};
-    const HANDLE handle = FindFirstFileW((folder + L"*" + extension).c_str(), &found);
-    if (handle == INVALID_HANDLE_VALUE) return names;
-    const win::UniqueFind search(handle);
+    const win::UniqueFind search(FindFirstFileW((folder + L"*" + extension).c_str(), &found));
+    if (!search) return names;
     do { // the system's pattern also matches longer extensions
         const std::wstring name = found.cFileName;
         if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) && HasExtension(name, extension))
             names.push_back(name);
-    } while (FindNextFileW(handle, &found));
+    } while (FindNextFileW(search.Get(), &found));
     return names;
 }
 

@@ -24,7 +24,7 @@ std::wstring ModulePath() {
     }
 }
 
-// The program's folder followed by a backslash, always appended: "C:\" becomes "C:\\" as in the whole suite.
+// With a backslash, always appended: at a drive's root there are two, which the system takes for one.
 std::wstring ModuleFolder(const std::wstring& modulePath) {
     const std::size_t end = modulePath.rfind(L'\\');
     std::wstring folder = modulePath.substr(0, end == std::wstring::npos ? 0 : end);
