@@ -1,7 +1,7 @@
 #include "endurance/MonkeyAnswers.h"
 
+#include "app/Blanks.h"
 #include "app/CodePage.h"
-#include "app/Names.h"
 #include "app/modLocations.h"
 #include "ftw/FtwPages.h"
 #include "ndw/NdwPages.h"

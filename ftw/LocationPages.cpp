@@ -1,8 +1,8 @@
 // Pages of the First-Time Setup Wizard about where the CNC programs lie.
 
+#include "app/Blanks.h"
 #include "app/CodePage.h"
 #include "app/Files.h"
-#include "app/Names.h"
 #include "app/Settings.h"
 #include "ftw/FtwPages.h"
 #include "ftw/TransmitRoot.h"

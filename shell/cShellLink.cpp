@@ -1,8 +1,8 @@
 #include "shell/cShellLink.h"
 
+#include "app/Blanks.h"
 #include "app/CodePage.h"
 #include "app/Com.h"
-#include "app/Names.h"
 
 #include <objbase.h>
 #include <shlobj.h>
