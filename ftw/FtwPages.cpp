@@ -2,6 +2,7 @@
 
 #include "app/Names.h"
 #include "app/Settings.h"
+#include "ftw/FtwLinks.h"
 #include "shell/ShortcutsPage.h"
 #include "shell/modShellLink.h"
 #include "wizard/frmWizard.h"
@@ -12,7 +13,8 @@ namespace {
 
 void Load(frmWizard&) {
     ftwSession = {};
-    ftwSession.maxProgress = NumericValue(TrimBlanks(ReadIniString(L"General", L"FTSW_MaxProgress", L"")));
+    ftwSession.maxProgress =
+        NumericValue(TrimBlanks(ReadIniString(suite::kGeneral, suite::kMaxProgress, L"")));
 }
 
 void BeforeShow(frmWizard& form) { ShowAppIcons(form, kNoAppIcon); }
@@ -31,7 +33,7 @@ constexpr PageBook kBook{kFtwPages, true, Load, BeforeShow, TakesOverNext, FtwHy
 
 const PageBook& FtwBook() { return kBook; }
 
-void PageFtwShortcuts(frmWizard& form) { BuildShortcutsPage(form, ftwSession.shortcutChoice); }
+void PageFtwShortcuts(frmWizard& form) { BuildShortcutsPage(form, ftwSession.shortcutChoice, kFtwLinks); }
 
 void LeaveFtwShortcuts(frmWizard& form, Move move) {
     ftwSession.shortcutChoice = LeaveShortcutsPage(form, move);
