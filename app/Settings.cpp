@@ -1,17 +1,17 @@
 #include "app/Settings.h"
 
 #include "app/CodePage.h"
-#include "app/IniRoom.h"
 #include "app/Names.h"
-#include "app/modLocations.h"
+#include "app/Paths.h"
+#include "app/Suite.h"
 
 #include <windows.h>
 
+#include <algorithm>
+#include <iterator>
 #include <string_view>
 
 namespace {
-
-constexpr char kWrittenSection[] = "General";
 
 std::wstring ReadValue(const std::wstring& file, const std::wstring& section, const std::wstring& key) {
     char buffer[255];
@@ -23,21 +23,37 @@ std::wstring ReadValue(const std::wstring& file, const std::wstring& section, co
     return end == std::string_view::npos ? std::wstring() : FromAnsi(text.substr(0, end));
 }
 
+// Each write makes the whole file anew. On a full disk the profile function has been seen to report success
+// and to lose the keys that no longer fitted. Other programs write the file, too, so it is not opened here.
+bool HasRoom(const std::wstring& file) {
+    constexpr ULONGLONG kSpare = 8 * 1024; // bytes
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    ULARGE_INTEGER size{}, free{};
+    if (GetFileAttributesExW(file.c_str(), GetFileExInfoStandard, &data)) {
+        size.LowPart = data.nFileSizeLow;
+        size.HighPart = data.nFileSizeHigh;
+    }
+    const std::wstring folder = SplitPath(file, kDriveAndFolder);
+    if (!GetDiskFreeSpaceExW(folder.c_str(), &free, nullptr, nullptr)) return true; // the write will tell
+    return free.QuadPart >= size.QuadPart + kSpare;
+}
+
 } // namespace
 
 std::wstring ReadIniString(const std::wstring& section, const std::wstring& key,
-                           const std::wstring& defaultText) {
-    std::wstring value = ReadValue(locations.IniFile, section, key);
+                           const std::wstring& defaultText, const std::wstring& file) {
+    std::wstring value = ReadValue(file, section, key);
     return value.empty() ? defaultText : value;
 }
 
-std::wstring ReadWholeIniString(const std::wstring& section, const std::wstring& key) {
+std::wstring ReadWholeIniString(const std::wstring& section, const std::wstring& key,
+                                const std::wstring& file) {
     constexpr std::size_t kLongest = 1 << 24; // far beyond what the system reads
     std::string buffer(1024, '\0');
     for (;;) {
         const std::size_t length =
             GetPrivateProfileStringA(ToAnsi(section).c_str(), ToAnsi(key).c_str(), "", buffer.data(),
-                                     static_cast<DWORD>(buffer.size()), ToAnsi(locations.IniFile).c_str());
+                                     static_cast<DWORD>(buffer.size()), ToAnsi(file).c_str());
         const bool isCut = length + 1 >= buffer.size();
         if (!isCut || buffer.size() >= kLongest) return FromAnsi({buffer.data(), length});
         buffer.resize(buffer.size() * 2);
@@ -50,27 +66,23 @@ std::wstring ReadProfileString(const std::wstring& file, const std::wstring& sec
     return value.empty() ? defaultText : value;
 }
 
-bool TryWriteIniString(const std::wstring& key, const std::wstring& value) {
-    constexpr std::size_t kSyntax = 64; // section line, "=", line ends
-    const std::string ansiKey = ToAnsi(key);
-    const std::string ansiValue = ToAnsi(value);
-    if (!HasRoomToRewrite(locations.IniFile, ansiKey.size() + ansiValue.size() + kSyntax)) return false;
-    return WritePrivateProfileStringA(kWrittenSection, ansiKey.c_str(), ansiValue.c_str(),
-                                      ToAnsi(locations.IniFile).c_str()) != FALSE;
+void WriteIniString(const std::wstring& key, const std::wstring& value, const std::wstring& file) {
+    constexpr std::size_t kLongest = 32000; // bytes; beyond 32,766 the profile function fails or crashes
+    const std::string bytes = ToAnsi(value);
+    if (bytes.size() > kLongest || !HasRoom(file) ||
+        !WritePrivateProfileStringA(ToAnsi(suite::kGeneral).c_str(), ToAnsi(key).c_str(), bytes.c_str(),
+                                    ToAnsi(file).c_str()))
+        ReportIniWriteError(file);
 }
 
-void WriteIniString(const std::wstring& key, const std::wstring& value) {
-    if (!TryWriteIniString(key, value)) ReportIniWriteError();
+win::AppError IniWriteError(const std::wstring& file) {
+    return {kIniWriteErrorNumber, L"VWizard",
+            L"Unable to write data to configuration file: \r\n" + file +
+                L".\r\n\r\nFile may be READ ONLY or may be locked by another application."};
 }
 
-win::AppError IniWriteError() {
-    std::wstring text = L"Unable to write data to configuration file: \r\n" + locations.IniFile +
-                        L".\r\n\r\nFile may be READ ONLY or may be locked by another application.";
-    if (IsTooLargeToRewrite(locations.IniFile))
-        text += L"\r\n\r\nIt is too large: nothing can be added to it.";
-    return {kIniWriteErrorNumber, L"VWizard", text};
+void ReportIniWriteError(const std::wstring& file) { throw IniWriteError(file); }
+
+void FlushIni(const std::wstring& file) {
+    WritePrivateProfileStringA(nullptr, nullptr, nullptr, ToAnsi(file).c_str());
 }
-
-void ReportIniWriteError() { throw IniWriteError(); }
-
-void FlushIni() { WritePrivateProfileStringA(nullptr, nullptr, nullptr, ToAnsi(locations.IniFile).c_str()); }

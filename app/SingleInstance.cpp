@@ -19,9 +19,11 @@ std::wstring CaptionOf(HWND window) {
     return TrimAtNul({buffer, kTextBuffer});
 }
 
+// Both calls leave the work to the window's own thread, which may hang. While a box or the picker is open
+// its form is disabled: the one to work with is the window asked last.
 void BringToFront(HWND window) {
     ShowWindowAsync(window, SW_SHOWNORMAL);
-    SetForegroundWindow(window);
+    SetForegroundWindow(GetLastActivePopup(window));
 }
 
 } // namespace
@@ -55,17 +57,13 @@ std::wstring GetWindowClass(HWND window) {
 
 bool InstanceClaim::Take(std::int16_t mode, const std::wstring& title) {
     const std::wstring name = L"Local\\VWizard.Mode" + std::to_wstring(mode);
-    mutex_ = CreateMutexW(nullptr, TRUE, name.c_str());
+    mutex_ = win::UniqueKernelHandle(CreateMutexW(nullptr, TRUE, name.c_str()));
     if (!mutex_ || GetLastError() != ERROR_ALREADY_EXISTS) return true;
     const DWORD begin = GetTickCount();
     while (GetTickCount() - begin < kWaitForOther_ms) {
         if (FindRunningWizard(title)) return false;
-        const DWORD result = WaitForSingleObject(mutex_, kWaitStep_ms);
+        const DWORD result = WaitForSingleObject(mutex_.Get(), kWaitStep_ms);
         if (result == WAIT_OBJECT_0 || result == WAIT_ABANDONED) return true; // the other copy has ended
     }
-    return false;
-}
-
-InstanceClaim::~InstanceClaim() {
-    if (mutex_) CloseHandle(mutex_);
+    return true; // it hangs or has failed before its window: nobody would ever get one
 }

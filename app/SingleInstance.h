@@ -2,6 +2,8 @@
 
 // One window a mode: a second start brings the running copy to the front and ends.
 
+#include "win/Handles.h"
+
 #include <windows.h>
 
 #include <cstdint>
@@ -10,8 +12,9 @@
 // The class of the wizard's window; what a second copy tests is that it begins with these letters.
 inline constexpr wchar_t kWizardClassPrefix[] = L"VWizard";
 
-// True when a copy of the mode whose caption is `title` has its window; that window has been restored and
-// brought to the front. Never waits for a window that does not answer.
+// True when a copy of the mode whose caption is `title` has its window; that window has been restored, and it
+// or what it has open (a box, the icon picker, the folder dialog) brought to the front. Errors are ignored,
+// and a window that does not answer is not waited for.
 bool FindRunningWizard(const std::wstring& title);
 
 // Depth first below `start` (null, which becomes the desktop): the window whose caption matches `pattern`
@@ -21,18 +24,13 @@ HWND LocateWizardWindow(const std::wstring& pattern, HWND& start);
 std::wstring GetWindowClass(HWND window);
 
 // Held by the copy of a mode that may open its window, until the process ends. Two starts at once see no
-// window of each other; this decides between them.
+// window of each other; this lets the second one wait for that of the first.
 class InstanceClaim {
   public:
-    // Waits up to two seconds for the window of a copy that claimed the mode before. False: this copy is
-    // to end (the other is in front by then); true: the mode is this copy's.
+    // False: a copy that claimed the mode before has its window, which is in front now, and this copy is to
+    // end. True: this copy goes on, after two seconds at most, when the other one shows no window.
     bool Take(std::int16_t mode, const std::wstring& title);
 
-    InstanceClaim() = default;
-    InstanceClaim(const InstanceClaim&) = delete;
-    InstanceClaim& operator=(const InstanceClaim&) = delete;
-    ~InstanceClaim();
-
   private:
-    HANDLE mutex_ = nullptr;
+    win::UniqueKernelHandle mutex_;
 };

@@ -1,9 +1,10 @@
 #include "app/modSecurity.h"
 
+#include "app/CodePage.h"
 #include "app/Files.h"
 #include "app/Names.h"
 #include "app/Settings.h"
-#include "app/modLocations.h"
+#include "app/Suite.h"
 #include "win/Handles.h"
 
 #include <windows.h>
@@ -12,34 +13,52 @@
 
 #include <cstdio>
 #include <cstring>
+#include <iterator>
 
 ConfigAccess configAccess;
 
 namespace {
 
-constexpr wchar_t kProbeName[] = L"VAccessTest.txt";
 constexpr char kProbeLine[] = "Test\r\n";
 constexpr DWORD kProbeSize = sizeof kProbeLine - 1;
 
+// A virus scanner or an indexer may have the new file open for a moment, and not share it.
+template <class Attempt> auto Patiently(const Attempt& attempt) {
+    constexpr ULONGLONG kPatience_ms = 500;
+    constexpr DWORD kPause_ms = 20;
+    const ULONGLONG end = GetTickCount64() + kPatience_ms;
+    for (;;) {
+        auto result = attempt();
+        if (result || GetLastError() != ERROR_SHARING_VIOLATION || GetTickCount64() >= end) return result;
+        Sleep(kPause_ms);
+    }
+}
+
 win::UniqueFile Open(const std::wstring& path, DWORD access, DWORD disposition) {
-    return win::UniqueFile(
-        CreateFileW(path.c_str(), access, 0, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr));
+    constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    return Patiently([&] {
+        return win::UniqueFile(CreateFileW(path.c_str(), access, kShareAll, nullptr, disposition,
+                                           FILE_ATTRIBUTE_NORMAL, nullptr));
+    });
 }
 
 std::int16_t WriteProbe(const std::wstring& path) {
     const auto file = Open(path, GENERIC_WRITE, CREATE_ALWAYS);
-    if (!file) return 3;
+    if (!file) return kProbeNotMade;
     DWORD written = 0;
-    return WriteFile(file.Get(), kProbeLine, kProbeSize, &written, nullptr) && written == kProbeSize ? 0 : 4;
+    return WriteFile(file.Get(), kProbeLine, kProbeSize, &written, nullptr) && written == kProbeSize
+               ? kConfigAccessGranted
+               : kProbeNotWritten;
 }
 
 std::int16_t ReadProbe(const std::wstring& path) {
     const auto file = Open(path, GENERIC_READ, OPEN_EXISTING);
-    if (!file) return 5;
+    if (!file) return kProbeNotOpened;
     char line[kProbeSize] = {};
     DWORD read = 0;
-    if (!ReadFile(file.Get(), line, kProbeSize, &read, nullptr)) return 6;
-    return read == kProbeSize && std::memcmp(line, kProbeLine, kProbeSize) == 0 ? 0 : 7;
+    if (!ReadFile(file.Get(), line, kProbeSize, &read, nullptr)) return kProbeNotRead;
+    return read == kProbeSize && std::memcmp(line, kProbeLine, kProbeSize) == 0 ? kConfigAccessGranted
+                                                                                : kProbeDiffers;
 }
 
 // Plain ASCII without blanks at its ends, other from run to run: the profile calls give it back unchanged.
@@ -52,35 +71,46 @@ std::wstring DateAndTime() {
     return text;
 }
 
-std::int16_t TestIniFile() {
-    if (!FileExists(locations.IniFile)) return kIniMissing;
-    if (GetFileAttributesW(locations.IniFile.c_str()) & FILE_ATTRIBUTE_READONLY) return kIniReadOnly;
-    const std::wstring probe = DateAndTime();
-    if (!TryWriteIniString(L"AccessTest", probe)) return kIniWriteFailed;
+std::int16_t TestIniFile(const std::wstring& file) {
+    if (!FileExists(file)) return kIniMissing;
+    if (GetFileAttributesW(file.c_str()) & FILE_ATTRIBUTE_READONLY) return kIniReadOnly;
+    const std::wstring now = DateAndTime();
+    // Not by WriteIniString, whose refusal would be told; that the disk has room the probe file has shown.
+    if (!WritePrivateProfileStringA(ToAnsi(suite::kGeneral).c_str(), ToAnsi(suite::kAccessTest).c_str(),
+                                    ToAnsi(now).c_str(), ToAnsi(file).c_str()))
+        return kIniWriteFailed;
     SetLastError(ERROR_SUCCESS); // the profile calls leave a misleading one behind after a success
-    return ReadIniString(L"General", L"AccessTest", L"") == probe ? 0 : kIniReadBackDiffers;
+    return ReadIniString(suite::kGeneral, suite::kAccessTest, L"", file) == now ? kConfigAccessGranted
+                                                                                : kIniReadBackDiffers;
 }
 
 } // namespace
 
 std::int16_t TestConfigAccess() {
-    configAccess = {};
-    configAccess.IsAdmin = IsUserAnAdmin() != FALSE;
-    const auto security =
-        static_cast<std::int16_t>(NumericValue(ReadIniString(L"General", L"Security", L"")));
-    configAccess.SecurityRestrict = (security & 2) != 0;
-    configAccess.SecurityEnabled = (security & 1) != 0;
-    std::int16_t code = TestFolderWrite(locations.SettingsPath);
-    if (code == 0) code = TestIniFile();
-    configAccess.ConfigWritable = code == kConfigAccessGranted;
-    if (code != kConfigAccessGranted) configAccess.AccessError = static_cast<std::int32_t>(GetLastError());
-    return code;
+    configAccess = FindConfigAccess(locations.SettingsPath);
+    return configAccess.Code;
+}
+
+ConfigAccess FindConfigAccess(const std::wstring& settingsFolder) {
+    const std::wstring iniFile = settingsFolder + suite::kIniFile;
+    ConfigAccess access;
+    access.IsAdmin = IsUserAnAdmin() != FALSE;
+    const auto security = static_cast<std::int16_t>(
+        NumericValue(ReadIniString(suite::kGeneral, suite::kSecurity, L"", iniFile)));
+    access.SecurityRestrict = (security & 2) != 0;
+    access.SecurityEnabled = (security & 1) != 0;
+    access.Code = TestFolderWrite(settingsFolder);
+    if (access.Code == kConfigAccessGranted) access.Code = TestIniFile(iniFile);
+    access.ConfigWritable = access.Code == kConfigAccessGranted;
+    if (!access.ConfigWritable) access.AccessError = static_cast<std::int32_t>(GetLastError());
+    return access;
 }
 
 std::int16_t TestFolderWrite(const std::wstring& folder) {
-    if (!FolderExists(folder)) return 1;
-    const std::wstring probe = folder + kProbeName; // step 2: one left over is written over
+    if (!FolderExists(folder)) return kFolderMissing;
+    const std::wstring probe = folder + suite::kProbeFile;
+    FileExists(probe); // the answer does not matter: one left over is written over
     if (const std::int16_t failed = WriteProbe(probe)) return failed;
     if (const std::int16_t failed = ReadProbe(probe)) return failed;
-    return DeleteFileW(probe.c_str()) ? 0 : 8;
+    return Patiently([&] { return DeleteFileW(probe.c_str()); }) ? kConfigAccessGranted : kProbeNotDeleted;
 }

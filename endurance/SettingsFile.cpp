@@ -67,7 +67,7 @@ Row RowNumber(std::size_t number, int size) {
     case 5:  return {L"read-only",          kUsual,                                        Ends::Denied, Spoilt::ReadOnly};
     case 6:  return {L"many keys",          Many("[Many]\r\n", "key", "=value\r\n", size), Ends::Finished};
     case 7:  return {L"many sections",      Many("", "[s", "]\r\nk=v\r\n; c\r\n", size / 10), Ends::Finished};
-    case 8:  return {L"100 MB",             large(100000),                                 Ends::Denied};
+    case 8:  return {L"10 MB",              large(10000),                                  Ends::Finished};
     case 9:  return {L"30 MB",              large(30000),                                  Ends::Finished};
     case 10: return {L"line of 64 kB",      kUsual + "[Long]\r\nk=" + std::string(65536, 'l') + "\r\nafter=1\r\n", Ends::Finished};
     case 11: return {L"UTF-16",             Utf16(kUsual),                                 Ends::Finished};

@@ -1,9 +1,24 @@
 #include "app/modSecurity.h"
 
 #include "app/Settings.h"
+#include "app/Suite.h"
 #include "tests/support/Scratch.h"
 
 #include <gtest/gtest.h>
+
+#include <thread>
+
+namespace {
+
+constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+// As virus scanners and indexers open what is new.
+win::UniqueFile OpenedByOthers(const std::wstring& file, DWORD share) {
+    return win::UniqueFile(
+        CreateFileW(file.c_str(), GENERIC_READ, share, nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+}
+
+} // namespace
 
 TEST(Security, Codes) {
     constexpr const wchar_t *kFolder = L"", *kProbe = L"\\VAccessTest.txt", *kIni = L"\\VarnelDnc.ini";
@@ -27,13 +42,45 @@ TEST(Security, Codes) {
     // clang-format on
     for (const auto& row : rows) {
         SCOPED_TRACE(Utf8(row.place) + " as " + std::to_string(static_cast<int>(row.how)));
-        const ScratchSuite suite;
-        suite.Ini("[General]\r\nSecurity=1\r\n");
-        const auto lock = Spoil(suite.Path().substr(0, suite.Path().size() - 1) + row.place, row.how);
-        EXPECT_EQ(TestConfigAccess(), row.code);
-        EXPECT_EQ(configAccess.ConfigWritable, row.code == 0);
-        EXPECT_EQ(configAccess.AccessError, row.error);
-        EXPECT_TRUE(configAccess.IsAdmin); // as every user of Wine
+        const ScratchFolder folder;
+        WriteFileBytes(folder.Path() + suite::kIniFile, "[General]\r\nSecurity=1\r\n");
+        const auto lock = Spoil(folder.Path().substr(0, folder.Path().size() - 1) + row.place, row.how);
+        const ConfigAccess access = FindConfigAccess(folder);
+        EXPECT_EQ(access.Code, row.code);
+        EXPECT_EQ(access.ConfigWritable, row.code == 0);
+        EXPECT_EQ(access.AccessError, row.error);
+        EXPECT_TRUE(access.IsAdmin); // as every user of Wine
+    }
+}
+
+TEST(Security, OthersMayHaveTheProbeOpen) {
+    const ScratchFolder folder;
+    const std::wstring probe = folder.Path() + suite::kProbeFile;
+    const struct {
+        DWORD share, held_ms;
+        int code;
+        DWORD least_ms, most_ms;
+    } rows[] = {
+        {kShareAll, 2000, 0, 0, 400},
+        {FILE_SHARE_READ, 150, 0, 100, 450},
+        {FILE_SHARE_READ | FILE_SHARE_WRITE, 150, 0, 100, 450}, // only the delete has to wait
+        {0, 2000, 3, 450, 1500},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.share);
+        const HANDLE over = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+        auto other = OpenedByOthers(probe, row.share);
+        std::thread holder([&] {
+            WaitForSingleObject(over, row.held_ms);
+            other = {};
+        });
+        const DWORD begin = GetTickCount();
+        EXPECT_EQ(TestFolderWrite(folder), row.code);
+        const DWORD time = GetTickCount() - begin;
+        EXPECT_TRUE(time >= row.least_ms && time <= row.most_ms) << time;
+        SetEvent(over);
+        holder.join();
+        CloseHandle(over);
     }
 }
 
@@ -43,12 +90,13 @@ TEST(Security, ASuccessLeavesItsKeyAndNoProbe) {
     std::wstring last;
     for (int i = 0; i < 2; ++i) {
         EXPECT_EQ(TestConfigAccess(), 0);
+        EXPECT_TRUE(configAccess.ConfigWritable);
         const std::wstring text = ReadIniString(L"General", L"AccessTest", L"");
         EXPECT_NE(text, last);
         last = text;
         Sleep(20);
     }
-    EXPECT_EQ(FileNames(suite), std::vector<std::wstring>{kIniName});
+    EXPECT_EQ(FileNames(suite), std::vector<std::wstring>{suite::kIniFile});
 }
 
 TEST(Security, Switches) {
@@ -56,10 +104,10 @@ TEST(Security, Switches) {
                                                 {"7", 3},   {"4", 0},  {"", 0},     {"abc", 0},
                                                 {"2 x", 2}, {"-1", 3}, {"65538", 2}};
     for (const auto& [value, switches] : rows) {
-        const ScratchSuite suite;
-        suite.Ini("[General]\r\nSecurity=" + value + "\r\n");
-        TestConfigAccess();
-        EXPECT_EQ(configAccess.SecurityEnabled + 2 * configAccess.SecurityRestrict, switches) << value;
-        EXPECT_TRUE(configAccess.ConfigWritable);
+        const ScratchFolder folder;
+        WriteFileBytes(folder.Path() + suite::kIniFile, "[General]\r\nSecurity=" + value + "\r\n");
+        const ConfigAccess access = FindConfigAccess(folder);
+        EXPECT_EQ(access.SecurityEnabled + 2 * access.SecurityRestrict, switches) << value;
+        EXPECT_TRUE(access.ConfigWritable);
     }
 }
