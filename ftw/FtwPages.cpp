@@ -17,8 +17,11 @@ void Load(frmWizard&) {
         NumericValue(TrimBlanks(ReadIniString(suite::kGeneral, suite::kMaxProgress, L"")));
 }
 
+// A page that has icons shows them itself.
 void BeforeShow(frmWizard& form) { ShowAppIcons(form, kNoAppIcon); }
 
+// The chosen setup mode decides where Next leads, and whether the wizard goes on at all. That page is not
+// counted as progress.
 bool TakesOverNext(frmWizard& form) {
     if (form.PageNo != kFtwChoosePage) return false;
     ChooseInstallType(form);

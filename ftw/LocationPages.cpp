@@ -91,6 +91,7 @@ void LeaveFtwConfirmLocation(frmWizard& form, Move move) {
     if (move != Move::Skip) ftwSession.location.floppy = form.pool.chkUserInput[0].Checked();
 }
 
+// Whatever becomes of the setting, the folder is wanted: it is made also when the write was refused.
 void SaveTransmitRoot(frmWizard& form) {
     const std::wstring problem = WriteProblem(ftwSession.location);
     FlushIni();

@@ -19,6 +19,7 @@ std::wstring WithoutPair(const std::wstring& path) {
 
 } // namespace
 
+// Each folder for itself, then the list: a pair around the whole of it is none around a folder.
 std::wstring WithoutQuotes(const std::wstring& typed) {
     std::wstring folders;
     std::size_t start = 0;

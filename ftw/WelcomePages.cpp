@@ -88,6 +88,7 @@ void PageFtwChoose(frmWizard& form) {
     form.pool.optUserInput[kKeepConfiguration].Enabled(ftwSession.maxProgress > kKeepAfterProgress);
 }
 
+// Keeping differs from a new installation in what the pages show, not in which pages come.
 void ChooseInstallType(frmWizard& form) {
     const std::int16_t mode = SelectedOption(form.pool, kSetupModes);
     if (mode == kLoadConfiguration) return HandOverToConfigManager(form);
@@ -126,7 +127,8 @@ void PageFtwGetStarted(frmWizard& form) {
     column.Check(0, L"Open the tutorial when I leave this page", false);
 }
 
-// Whatever way the page is left; once, since the first Skip shows the page again.
+// Whatever way the page is left; once, since the first Skip shows the page again. It is a wish for this
+// visit: who comes back is asked anew.
 void LeaveFtwGetStarted(frmWizard& form, Move) {
     auto& offer = form.pool.chkUserInput[0];
     if (!offer.Checked()) return;

@@ -64,6 +64,8 @@ void ShowAppIcons(frmWizard& form, std::int16_t mode) {
     }
 }
 
+// The settings are read anew each time: another program of the suite may have installed the Remote Server
+// while the wizard was open.
 void UpdateShortcuts(HWND owner, std::int16_t choice) {
     const bool remoteServer = RemoteServerInstalled();
     for (const Place& place : kPlaces) {
