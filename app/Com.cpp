@@ -4,7 +4,5 @@
 
 #include <ole2.h>
 
-void StartOle() {
-    static const HRESULT started = OleInitialize(nullptr);
-    static_cast<void>(started); // without it the services say so themselves
-}
+// Never taken back: the thread is the program's only one, and the services keep objects until it ends.
+void StartOle() { OleInitialize(nullptr); }

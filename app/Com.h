@@ -1,13 +1,14 @@
 #pragma once
 
-// OLE for the calling thread, which some of the shell's services need. Begun at the first call and kept
-// until the program ends, so that a run that asks the shell for nothing does not pay for it.
+// OLE, without which the shell opens, copies and shows nothing reliably: what it calls may be COM objects.
+// Begun by whoever asks the shell, so that a run that asks it for nothing does not pay for it.
 
 #include "win/Handles.h"
 
 #include <objbase.h>
 #include <shtypes.h>
 
+// For the calling thread, until it ends; again costs next to nothing. Where it fails, the services say so.
 void StartOle();
 
 template <class Interface> void ReleaseInterface(Interface* object) { object->Release(); }

@@ -14,13 +14,13 @@ bool Occurs(std::wstring_view text, std::wstring_view word) {
 
 } // namespace
 
-CommandLine ParseCommandLine(std::wstring_view text) {
-    CommandLine line;
-    line.configLaunch = Occurs(text, L"/VCONFIG");
-    if (Occurs(text, L"/NDW")) {
-        line.wizardMode = 1;
-        line.wizardTitle = kNdwTitle;
-        line.shiftWindow = Occurs(text, L"/SHIFT");
-    }
-    return line;
+StartUpState ParseCommandLine(std::wstring_view text) {
+    StartUpState state;
+    const bool isNewDevice = Occurs(text, L"/NDW");
+    state.WizardMode = isNewDevice ? kNewDevice : kFirstTimeSetup;
+    state.ConfigLaunch = Occurs(text, L"/VCONFIG");
+    state.WizardTitle = isNewDevice ? kNdwTitle : kFtwTitle;
+    // The First-Time Setup Wizard keeps the middle of the screen: the other one opens beside it.
+    state.ShiftWindow = isNewDevice && Occurs(text, L"/SHIFT");
+    return state;
 }

@@ -1,6 +1,7 @@
 #include "app/Files.h"
 
-#include "app/Names.h"
+#include "app/Blanks.h"
+#include "app/Com.h"
 #include "app/Paths.h"
 #include "win/Handles.h"
 
@@ -10,12 +11,10 @@
 
 namespace {
 
-// Fails where the shell would have to be asked (a relative pattern, a missing file): never shows a box.
-DWORD Attributes(const std::wstring& path) { return GetFileAttributesW(path.c_str()); }
-
 bool ShellOperation(UINT function, const std::wstring& from, const std::wstring* to, unsigned flags,
                     HWND owner) {
     if (!FitsShell(from) || (to && !FitsShell(*to))) return false;
+    StartOle();
     const std::wstring source = from + L'\0'; // the shell wants a list that ends in two NULs
     const std::wstring target = (to ? *to : std::wstring()) + L'\0';
     SHFILEOPSTRUCTW operation{};
@@ -36,34 +35,26 @@ bool HasExtension(const std::wstring& name, const std::wstring& extension) {
 
 bool FileExists(const std::wstring& path) {
     if (TrimBlanks(SplitPath(path, kNameWithoutExtension)).empty()) return false;
-    const DWORD attributes = Attributes(path);
+    const DWORD attributes = GetFileAttributesW(path.c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
 bool FolderExists(const std::wstring& path) {
     if (path.empty()) return false;
-    const DWORD attributes = Attributes(path);
+    const DWORD attributes = GetFileAttributesW(path.c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
-}
-
-std::optional<unsigned long long> FileSize(const std::wstring& path) {
-    WIN32_FILE_ATTRIBUTE_DATA data{};
-    if (!GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data)) return std::nullopt;
-    if (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) return std::nullopt;
-    return static_cast<unsigned long long>(data.nFileSizeHigh) << 32 | data.nFileSizeLow;
 }
 
 std::vector<std::wstring> ListFiles(const std::wstring& folder, const std::wstring& extension) {
     std::vector<std::wstring> names;
     WIN32_FIND_DATAW found{};
-    const HANDLE handle = FindFirstFileW((folder + L"*" + extension).c_str(), &found);
-    if (handle == INVALID_HANDLE_VALUE) return names;
-    const win::UniqueFind search(handle);
+    const win::UniqueFind search(FindFirstFileW((folder + L"*" + extension).c_str(), &found));
+    if (!search) return names;
     do { // the system's pattern also matches longer extensions
         const std::wstring name = found.cFileName;
         if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) && HasExtension(name, extension))
             names.push_back(name);
-    } while (FindNextFileW(handle, &found));
+    } while (FindNextFileW(search.Get(), &found));
     return names;
 }
 

@@ -5,7 +5,6 @@
 
 #include <windows.h>
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,9 +13,6 @@ bool FileExists(const std::wstring& path);
 
 // With or without a backslash at the end; roots and shares too.
 bool FolderExists(const std::wstring& path);
-
-// Size in bytes of a regular file.
-std::optional<unsigned long long> FileSize(const std::wstring& path);
 
 // Full names (with extension) of the files in `folder` (ends in a backslash) whose extension is exactly
 // `extension` (".dcp", any case), in the order in which the system lists them.

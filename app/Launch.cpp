@@ -1,42 +1,71 @@
 #include "app/Launch.h"
 
-#include "app/modLocations.h"
+#include "app/Com.h"
+#include "app/Suite.h"
 #include "win/Handles.h"
 
 #include <windows.h>
 
 #include <shellapi.h>
 
+#include <algorithm>
+
 namespace {
 
 std::wstring Quoted(const std::wstring& text) { return L'"' + text + L'"'; }
 
+// The shell shows no box of its own when that fails, but asks for other rights where they are needed. The
+// start is complete at the return: the program may end right after it.
+void OpenByShell(const std::wstring& file, const std::wstring& parameters) {
+    StartOle();
+    SHELLEXECUTEINFOW start{};
+    start.cbSize = sizeof start;
+    start.fMask = SEE_MASK_NOASYNC | SEE_MASK_FLAG_NO_UI;
+    start.hwnd = GetActiveWindow(); // else Windows may ask behind it
+    start.lpVerb = L"Open";
+    start.lpFile = file.c_str();
+    start.lpParameters = parameters.empty() ? nullptr : parameters.c_str();
+    start.nShow = SW_SHOWNORMAL;
+    ShellExecuteExW(&start);
+}
+
+// A program that wants an administrator's rights is none that CreateProcess can start.
+void StartByShell(const std::wstring& commandLine) {
+    const bool isQuoted = commandLine.starts_with(L'"');
+    const std::size_t end = std::min(commandLine.find(isQuoted ? L'"' : L' ', 1), commandLine.size());
+    const std::size_t rest = commandLine.find_first_not_of(L' ', end + isQuoted);
+    OpenByShell(commandLine.substr(isQuoted, end - isQuoted),
+                commandLine.substr(std::min(rest, commandLine.size())));
+}
+
 } // namespace
 
-void RunCommandLine(std::wstring commandLine) {
+void RunCommandLine(const std::wstring& commandLine) {
     STARTUPINFOW start{};
     start.cb = sizeof start;
     start.dwFlags = STARTF_USESHOWWINDOW;
     start.wShowWindow = SW_SHOWNORMAL;
     PROCESS_INFORMATION process{};
-    if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
-                        &process))
+    std::wstring writable = commandLine; // the system writes into it
+    if (!CreateProcessW(nullptr, writable.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+                        &process)) {
+        constexpr DWORD kElevationRequired = 740; // missing in the headers of some compilers
+        if (GetLastError() == kElevationRequired) StartByShell(commandLine);
         return;
+    }
     const win::UniqueKernelHandle thread(process.hThread);
     const win::UniqueKernelHandle started(process.hProcess);
     AllowSetForegroundWindow(process.dwProcessId);
 }
 
-void RunProgram(const std::wstring& file, const std::wstring& arguments) {
-    RunCommandLine(Quoted(locations.ProgramFolder + file) + arguments);
+void RunProgram(const std::wstring& file, const std::wstring& arguments, const std::wstring& folder) {
+    RunCommandLine(Quoted(folder + file) + arguments);
 }
 
-void OpenDocument(const std::wstring& file, const std::wstring& arguments) {
-    const std::wstring path = Quoted(locations.ProgramFolder + file);
-    ShellExecuteW(nullptr, L"Open", path.c_str(), arguments.empty() ? nullptr : arguments.c_str(), nullptr,
-                  SW_SHOWNORMAL);
+void OpenDocument(const std::wstring& file, const std::wstring& arguments, const std::wstring& folder) {
+    OpenByShell(Quoted(folder + file), arguments);
 }
 
-void ShowHelpTopic(const std::wstring& helpFile, const std::wstring& topic) {
-    RunCommandLine(L"HH.exe " + Quoted(locations.ProgramFolder + helpFile + L"::/" + topic));
+void ShowHelpTopic(const std::wstring& helpFile, const std::wstring& topic, const std::wstring& folder) {
+    RunCommandLine(suite::kHelpViewer + (L" " + Quoted(folder + helpFile + L"::/" + topic)));
 }

@@ -1,7 +1,7 @@
 #include "app/Settings.h"
 
+#include "app/Blanks.h"
 #include "app/CodePage.h"
-#include "app/Names.h"
 #include "app/Paths.h"
 #include "app/Suite.h"
 

@@ -9,9 +9,11 @@
 
 #include <shlobj.h>
 
-ProgramLocations locations;
+#include <algorithm>
 
 namespace {
+
+ProgramLocations found;
 
 std::wstring ModulePath() {
     std::wstring path(MAX_PATH, L'\0');
@@ -22,7 +24,7 @@ std::wstring ModulePath() {
     }
 }
 
-// The program's folder followed by a backslash, always appended: "C:\" becomes "C:\\" as in the whole suite.
+// With a backslash, always appended: at a drive's root there are two, which the system takes for one.
 std::wstring ModuleFolder(const std::wstring& modulePath) {
     const std::size_t end = modulePath.rfind(L'\\');
     std::wstring folder = modulePath.substr(0, end == std::wstring::npos ? 0 : end);
@@ -45,37 +47,49 @@ std::wstring Resolved(const std::wstring& path) {
     return full.substr(0, length);
 }
 
-std::wstring FindSettingsPath() {
-    std::wstring path = ReadUserPathValue(kSuiteKey, kPathsKey, kSettingsPathValue, L"");
-    path.resize(path.find(L'\0') == std::wstring::npos ? path.size() : path.find(L'\0'));
-    if (path.empty()) path = locations.CommonAppDataPath + kSuiteFolder + L"Settings\\";
+std::wstring SettingsFolder(const std::wstring& userKey, const std::wstring& commonAppData) {
+    std::wstring path = ReadUserPathValue(userKey, suite::kPathsKey, suite::kSettingsPathValue, L"");
+    path.resize(std::min(path.find(L'\0'), path.size())); // no path goes on behind one
+    if (path.empty()) path = commonAppData + suite::kDataFolder + suite::kSettingsFolder;
     path = WithBackslash(path);
     return IsRelative(path) ? Resolved(path) : path;
 }
 
 } // namespace
 
-void InitLocations() {
+const ProgramLocations& locations = found;
+
+void InitLocations() { UseLocations(FindLocations()); }
+
+void UseLocations(const ProgramLocations& those) { found = those; }
+
+ProgramLocations FindLocations(const std::wstring& userKey) {
+    ProgramLocations all;
     const std::wstring module = ModulePath();
-    locations.ExeName = SplitPath(module, kNameWithoutExtension);
-    locations.AppPath = ModuleFolder(module);
-    locations.LocalAppDataPath = GetSpecialFolder(CSIDL_LOCAL_APPDATA);
-    locations.CommonAppDataPath = GetSpecialFolder(CSIDL_COMMON_APPDATA);
-    locations.MyDocumentsPath = GetSpecialFolder(CSIDL_PERSONAL);
-    locations.CommonDocumentsPath = GetSpecialFolder(CSIDL_COMMON_DOCUMENTS);
-    locations.SettingsPath = FindSettingsPath();
-    locations.LogPath = locations.CommonAppDataPath + kSuiteFolder + L"Log\\";
-    locations.IniFile = locations.SettingsPath + kIniName;
-    locations.TempPath = locations.LocalAppDataPath + kSuiteFolder + L"Temp\\";
-    locations.ProgramFilesPath = GetSpecialFolder(CSIDL_PROGRAM_FILES);
-    const std::wstring icons = locations.AppPath + L"Icons\\";
-    locations.IconsPath = FolderExists(icons) ? icons : locations.AppPath;
+    all.ExeName = SplitPath(module, kNameWithoutExtension);
+    all.AppPath = all.ProgramFolder = ModuleFolder(module);
+    all.SamplesPath = all.AppPath + suite::kSamplesFolder;
+    all.LocalAppDataPath = GetSpecialFolder(CSIDL_LOCAL_APPDATA);
+    all.CommonAppDataPath = GetSpecialFolder(CSIDL_COMMON_APPDATA);
+    all.MyDocumentsPath = GetSpecialFolder(CSIDL_PERSONAL);
+    all.CommonDocumentsPath = GetSpecialFolder(CSIDL_COMMON_DOCUMENTS);
+    all.SettingsPath = SettingsFolder(userKey, all.CommonAppDataPath);
+    all.LogPath = all.CommonAppDataPath + suite::kDataFolder + suite::kLogFolder;
+    all.IniFile = all.SettingsPath + suite::kIniFile;
+    all.TempPath = all.LocalAppDataPath + suite::kDataFolder + suite::kTempFolder;
+    all.ProgramFilesPath = GetSpecialFolder(CSIDL_PROGRAM_FILES);
+    return all;
 }
 
 std::wstring GetSpecialFolder(int csidl) {
     return WithBackslash(SpecialFolderPath(nullptr, csidl).value_or(L"")); // some paths have one already
 }
 
+std::wstring IconFolder() {
+    const std::wstring icons = locations.AppPath + suite::kIconsFolder;
+    return FolderExists(icons) ? icons : locations.AppPath;
+}
+
 std::wstring ConfigurationFile(std::wstring_view name) {
-    return locations.SettingsPath + std::wstring(name) + kConfigurationExtension;
+    return locations.SettingsPath + std::wstring(name) + suite::kConfigurationExtension;
 }

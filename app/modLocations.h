@@ -1,8 +1,10 @@
 #pragma once
 
-// Every folder and file of the suite that the wizard uses. Computed once, first of all at start-up.
-// A folder path ends in a backslash; callers append file names directly. Nothing is created or tested
-// here, and a special folder that the shell does not know is the empty text.
+// Every folder and file of the suite that the wizard uses. Found once, first of all at start-up. A folder's
+// path ends in a backslash; nothing is created or tested. A special folder that the shell does not know is
+// the empty text, and what lies below it then counts from the current folder.
+
+#include "app/Suite.h"
 
 #include <string>
 #include <string_view>
@@ -10,39 +12,37 @@
 struct ProgramLocations {
     std::wstring ExeName;             // the program's file name without extension
     std::wstring AppPath;             // the program's folder; doubled backslash at a drive's root
-    std::wstring LocalAppDataPath;    //
-    std::wstring CommonAppDataPath;   //
+    std::wstring ProgramFolder;       // the same, as the folder of the programs beside it
+    std::wstring SamplesPath;         // in AppPath
+    std::wstring LocalAppDataPath;    // holds TempPath
+    std::wstring CommonAppDataPath;   // holds LogPath, and SettingsPath where the user has moved nothing
     std::wstring MyDocumentsPath;     //
     std::wstring CommonDocumentsPath; // holds the default folder of CNC programs
-    std::wstring SettingsPath;        // the user's registry value, else below the common application data
-    std::wstring LogPath;             // LogPath, TempPath and ProgramFilesPath: the same set
-    std::wstring IniFile;             //   in every program of the suite
-    std::wstring TempPath;
+    std::wstring SettingsPath;        // the value of the user's registry, or below CommonAppDataPath
+    std::wstring IniFile;             // in SettingsPath
+    std::wstring LogPath;             // this one and the next two are the same set in every program of the
+    std::wstring TempPath;            //   suite; the wizard reads none of them
     std::wstring ProgramFilesPath;
-    std::wstring SamplesPath; // set by modMain
-    std::wstring IconsPath;   // Icons\ in AppPath, or AppPath itself when there is no such folder
-    std::wstring& ProgramFolder = AppPath; // one folder under its two names
 };
 
-extern ProgramLocations locations;
+extern const ProgramLocations& locations;
 
+// Finds all of them and makes them those of the program.
 void InitLocations();
 
-// The path of a CSIDL_… folder with one backslash at its end, or "" when the shell cannot resolve it.
+// The same in two halves, for tests and benchmarks: another key below HKEY_CURRENT_USER, other folders.
+ProgramLocations FindLocations(const std::wstring& userKey = suite::kUserKey);
+void UseLocations(const ProgramLocations& found);
+
+// The path of a CSIDL_… folder with one backslash at its end; "" when the shell has no path for it.
 std::wstring GetSpecialFolder(int csidl);
 
-// The key of the user's registry that may move the settings folder. Read, never written.
-inline constexpr wchar_t kSuiteKey[] = L"SOFTWARE\\Varnel\\Varnel DNC";
-inline constexpr wchar_t kPathsKey[] = L"Paths";
-inline constexpr wchar_t kSettingsPathValue[] = L"SettingsPath";
-
-// File names of the suite, one place for all.
-inline constexpr wchar_t kIniName[] = L"VarnelDnc.ini";
-inline constexpr wchar_t kSuiteFolder[] = L"Varnel DNC\\";
-inline constexpr wchar_t kConfigurationExtension[] = L".DCP";
-
-// Name of the folder of CNC programs that the wizard offers, in the documents of all users.
-inline constexpr wchar_t kDefaultCncFolder[] = L"CNC Programs";
+// The folder Icons\ in AppPath, or AppPath itself when there is no such folder now.
+std::wstring IconFolder();
 
 // Settings folder, configuration name, ".DCP".
 std::wstring ConfigurationFile(std::wstring_view name);
+
+inline constexpr auto& kIniName = suite::kIniFile;
+inline constexpr auto& kConfigurationExtension = suite::kConfigurationExtension;
+inline constexpr auto& kDefaultCncFolder = suite::kCncFolder;

@@ -1,8 +1,9 @@
 // Where the program starts. The one file of this folder that knows the wizards.
 
 #include "app/CommandLine.h"
+#include "app/Hardening.h"
 #include "app/SingleInstance.h"
-#include "app/StartUp.h"
+#include "app/modLocations.h"
 #include "app/modSecurity.h"
 #include "ftw/FtwPages.h"
 #include "ndw/NdwPages.h"
@@ -14,23 +15,6 @@
 
 namespace {
 
-// Libraries come from the system's folder, never from the program's or the current one, where anybody who
-// can write there could plant them. Systems that lack the call (before 2011) are left as they are.
-void RefusePlantedLibraries() {
-    using Set = BOOL(WINAPI*)(DWORD);
-    const FARPROC found = GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "SetDefaultDllDirectories");
-    if (found) reinterpret_cast<Set>(reinterpret_cast<void*>(found))(LOAD_LIBRARY_SEARCH_SYSTEM32);
-    SetDllDirectoryW(L"");
-}
-
-void ReadCommandLine(const wchar_t* text) {
-    const CommandLine line = ParseCommandLine(text);
-    startUp.WizardMode = line.wizardMode;
-    startUp.ConfigLaunch = line.configLaunch;
-    startUp.ShiftWindow = line.shiftWindow;
-    startUp.WizardTitle = line.wizardTitle;
-}
-
 void RunMessageLoop() {
     MSG message{};
     while (GetMessageW(&message, nullptr, 0, 0) > 0)
@@ -39,11 +23,11 @@ void RunMessageLoop() {
 
 void Main(const wchar_t* commandLine) {
     InitLocations();
-    ReadCommandLine(commandLine);
+    startUp = ParseCommandLine(commandLine);
     InstanceClaim claim;
     if (FindRunningWizard(startUp.WizardTitle) || !claim.Take(startUp.WizardMode, startUp.WizardTitle))
         return;
-    startUp.SamplesFolder = locations.ProgramFolder + L"Samples\\";
+    startUp.SamplesFolder = locations.SamplesPath;
     startUp.MessageTitlePrefix = L"VWizard - ";
     TestConfigAccess();
     frmWizard form(startUp.WizardMode == kNewDevice ? NdwBook() : FtwBook(), configAccess.ConfigWritable);
@@ -58,6 +42,7 @@ void Main(const wchar_t* commandLine) {
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR commandLine, int) {
     RefusePlantedLibraries();
+    RefuseSystemBoxes();
     try {
         Main(commandLine);
     } catch (const win::AppError& error) {

@@ -2,7 +2,7 @@
 
 #include "app/CodePage.h"
 #include "app/Files.h"
-#include "app/Names.h"
+#include "app/Numbers.h"
 #include "app/Settings.h"
 #include "app/Suite.h"
 #include "win/Handles.h"

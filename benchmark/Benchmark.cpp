@@ -51,8 +51,10 @@ int Run(int count, wchar_t** words) {
     InitLocations();
     const Bench bench{locations.AppPath, std::wstring(words[1]) + L"\\", std::wstring(words[2]) + L"\\",
                       _wtoi(words[3])};
-    locations.SettingsPath = bench.scratch;
-    locations.IniFile = bench.scratch + kIniName;
+    ProgramLocations scratch = locations;
+    scratch.SettingsPath = bench.scratch;
+    scratch.IniFile = bench.scratch + suite::kIniFile;
+    UseLocations(scratch);
     WriteSettings();
     PrintHead();
     for (const Figure& figure : kFigures)

@@ -83,7 +83,9 @@ void MeasureSamples(const Bench& bench) {
     CreateDirectoryW(folder.c_str(), nullptr);
     for (int i = 0; i < kSamples; ++i)
         MakeFile(folder + L"Sample " + std::to_wstring(i) + L".dcp", "", 0);
-    locations.SamplesPath = folder;
+    ProgramLocations scratch = locations;
+    scratch.SamplesPath = folder;
+    UseLocations(scratch);
     startUp.WizardMode = kFirstTimeSetup;
     frmWizard form(FtwBook(), true);
     form.Form_Load();

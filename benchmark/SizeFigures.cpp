@@ -1,4 +1,3 @@
-#include "app/Files.h"
 #include "benchmark/Figures.h"
 #include "benchmark/Table.h"
 
@@ -21,15 +20,21 @@ DWORD ArtworkIn(const std::wstring& path) {
     return sum;
 }
 
-double Kilobytes(unsigned long long bytes) { return static_cast<double>(bytes) / 1024; }
+DWORD SizeOf(const std::wstring& path) {
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data);
+    return data.nFileSizeLow;
+}
+
+double Kilobytes(DWORD bytes) { return static_cast<double>(bytes) / 1024; }
 
 } // namespace
 
 void MeasureSize(const Bench& bench) {
     const std::wstring wizard = bench.suite + L"VWizard.exe";
-    const unsigned long long all = FileSize(wizard).value_or(0);
+    const DWORD all = SizeOf(wizard);
     const double code = Kilobytes(all - ArtworkIn(wizard));
-    const double bare = Kilobytes(FileSize(bench.programs + L"bare_window.exe").value_or(0));
+    const double bare = Kilobytes(SizeOf(bench.programs + L"bare_window.exe"));
     PrintRatio("program without artwork", "bare window", code, bare, "kB", 2.0);
     PrintValue("program without artwork", code, "kB", 640);
     PrintValue("program with artwork", Kilobytes(all), "kB", 640);

@@ -100,7 +100,6 @@ const Row kRows[] = {
     FAILS(SHGetSpecialFolderLocation, kFailed,             0),
     FAILS(SHGetPathFromIDListW,       FALSE,               0),
     FAILS(SHFileOperationW,           ERROR_ACCESS_DENIED, 0),
-    FAILS(ShellExecuteW,              SE_ERR_ACCESSDENIED, ERROR_ACCESS_DENIED),
     FAILS(ShellExecuteExW,            FALSE,               ERROR_ACCESS_DENIED),
     FAILS(CreateProcessW,             FALSE,               ERROR_FILE_NOT_FOUND),
     FAILS(OleInitialize,              kFailed,             0),

@@ -1,6 +1,6 @@
 // Each of the bad texts, and names about as long as a path may be, as the name of a configuration: a message
 // or just one regular file of just that name, and nothing anywhere else.
-#include "app/Names.h"
+#include "app/Blanks.h"
 #include "endurance/BadText.h"
 #include "endurance/Scene.h"
 #include "endurance/Soak.h"

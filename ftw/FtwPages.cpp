@@ -1,6 +1,7 @@
 #include "ftw/FtwPages.h"
 
-#include "app/Names.h"
+#include "app/Blanks.h"
+#include "app/Numbers.h"
 #include "app/Settings.h"
 #include "ftw/FtwLinks.h"
 #include "shell/ShortcutsPage.h"

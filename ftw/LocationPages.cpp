@@ -1,8 +1,8 @@
 // Pages of the First-Time Setup Wizard about where the CNC programs lie.
 
+#include "app/Blanks.h"
 #include "app/CodePage.h"
 #include "app/Files.h"
-#include "app/Names.h"
 #include "app/Settings.h"
 #include "app/modLocations.h"
 #include "ftw/FtwLinks.h"

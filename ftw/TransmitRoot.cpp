@@ -1,6 +1,6 @@
 #include "ftw/TransmitRoot.h"
 
-#include "app/Names.h"
+#include "app/Blanks.h"
 
 namespace {
 

@@ -1,8 +1,9 @@
 #include "ndw/NdwCreateConfig.h"
 
+#include "app/Blanks.h"
 #include "app/CodePage.h"
+#include "app/FileNames.h"
 #include "app/Files.h"
-#include "app/Names.h"
 #include "app/modLocations.h"
 #include "ndw/DcpFile.h"
 #include "ndw/NdwPages.h"

@@ -1,6 +1,6 @@
 // Pages of the New Device Wizard about what the machine sends: file name and end of reception.
 
-#include "app/Names.h"
+#include "app/FileNames.h"
 #include "ndw/AnswerText.h"
 #include "ndw/NdwPages.h"
 #include "wizard/frmWizard.h"

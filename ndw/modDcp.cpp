@@ -1,6 +1,6 @@
 #include "ndw/modDcp.h"
 
-#include "app/Names.h"
+#include "app/Blanks.h"
 #include "ndw/DcpFields.h"
 
 #include <algorithm>

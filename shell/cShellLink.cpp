@@ -1,8 +1,8 @@
 #include "shell/cShellLink.h"
 
+#include "app/Blanks.h"
 #include "app/CodePage.h"
 #include "app/Com.h"
-#include "app/Names.h"
 #include "app/SpecialFolders.h"
 
 #include <objbase.h>

@@ -352,6 +352,6 @@ void frmIcons::OnDrawItem(win::Control& control, const DRAWITEMSTRUCT& item) {
 
 std::wstring NdwPickIcon(HWND owner) {
     frmIcons form;
-    form.OpenForm(locations.IconsPath, owner);
+    form.OpenForm(IconFolder(), owner);
     return form.Result();
 }

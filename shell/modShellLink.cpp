@@ -1,7 +1,8 @@
 #include "shell/modShellLink.h"
 
+#include "app/Blanks.h"
 #include "app/Files.h"
-#include "app/Names.h"
+#include "app/Numbers.h"
 #include "app/Settings.h"
 #include "app/Suite.h"
 #include "app/modLocations.h"

@@ -1,6 +1,7 @@
 // The part of frmWizard that moves between pages: the four buttons, the page change, the ways out.
 
-#include "app/Names.h"
+#include "app/Blanks.h"
+#include "app/Numbers.h"
 #include "app/Settings.h"
 #include "wizard/frmWizard.h"
 

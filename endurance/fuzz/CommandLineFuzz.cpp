@@ -25,10 +25,10 @@ void Examine(Generator& from) {
     while (!from.Done()) {
         text += from.Below(4) == 0 ? from.Text(5, L"/nNdDwW\0\u0130") : std::wstring(from.OneOf(kWords));
     }
-    const CommandLine line = ParseCommandLine(text);
+    const StartUpState state = ParseCommandLine(text);
     const bool ndw = Holds(text, L"/NDW");
-    REQUIRE(line.wizardMode == (ndw ? 1 : 0));
-    REQUIRE(line.wizardTitle == (ndw ? kNdwTitle : kFtwTitle));
-    REQUIRE(line.configLaunch == Holds(text, L"/VCONFIG"));
-    REQUIRE(line.shiftWindow == (ndw && Holds(text, L"/SHIFT")));
+    REQUIRE(state.WizardMode == (ndw ? 1 : 0));
+    REQUIRE(state.WizardTitle == (ndw ? kNdwTitle : kFtwTitle));
+    REQUIRE(state.ConfigLaunch == Holds(text, L"/VCONFIG"));
+    REQUIRE(state.ShiftWindow == (ndw && Holds(text, L"/SHIFT")));
 }

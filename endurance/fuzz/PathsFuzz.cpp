@@ -1,4 +1,6 @@
-#include "app/Names.h"
+#include "app/Blanks.h"
+#include "app/FileNames.h"
+#include "app/Numbers.h"
 #include "app/Paths.h"
 #include "endurance/fuzz/Fuzz.h"
 

@@ -25,10 +25,10 @@ TEST(CommandLine, Switches) {
     // clang-format on
     for (const Row& row : rows) {
         SCOPED_TRACE(testing::PrintToString(row.text));
-        const CommandLine line = ParseCommandLine(row.text);
-        EXPECT_EQ(line.wizardMode, row.mode);
-        EXPECT_EQ(line.configLaunch, row.config);
-        EXPECT_EQ(line.shiftWindow, row.shift);
-        EXPECT_EQ(line.wizardTitle, row.mode == 1 ? kNdwTitle : kFtwTitle);
+        const StartUpState state = ParseCommandLine(row.text);
+        EXPECT_EQ(state.WizardMode, row.mode);
+        EXPECT_EQ(state.ConfigLaunch, row.config);
+        EXPECT_EQ(state.ShiftWindow, row.shift);
+        EXPECT_EQ(state.WizardTitle, row.mode == 1 ? kNdwTitle : kFtwTitle);
     }
 }

@@ -9,8 +9,6 @@ using namespace std::string_literals;
 
 namespace {
 
-constexpr wchar_t kKey[] = L"SOFTWARE\\Varnel\\Varnel DNC\\Paths";
-
 std::wstring CurrentFolder() {
     wchar_t path[MAX_PATH] = L"";
     GetCurrentDirectoryW(MAX_PATH, path);
@@ -19,12 +17,12 @@ std::wstring CurrentFolder() {
 
 } // namespace
 
-// The prefix of the tests has no value of its own.
 TEST(Locations, SettingsPath) {
-    InitLocations();
-    const std::wstring usual = locations.CommonAppDataPath + L"Varnel DNC\\Settings\\";
+    const ScratchKey key;
+    const ProgramLocations unmoved = FindLocations(key.Path());
+    const std::wstring usual = unmoved.CommonAppDataPath + L"Varnel DNC\\Settings\\";
     const std::wstring current = CurrentFolder();
-    EXPECT_EQ(locations.SettingsPath, usual);
+    EXPECT_EQ(unmoved.SettingsPath, usual);
     const struct {
         std::wstring value, settings;
     } rows[] = {
@@ -38,32 +36,37 @@ TEST(Locations, SettingsPath) {
         {L"D:/Dnc", L"D:/Dnc\\"},
         {L"D:\\Dnc\0rest"s, L"D:\\Dnc\\"},
         {L"D:\\" + std::wstring(1100, L'x'), usual},
-        {L"Dnc", current + L"\\Dnc\\"},
+        {L"Dnc", current + L"\\Dnc\\"}, // whatever folder is current later
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(Utf8(row.value.substr(0, 20)));
-        SetRegText(HKEY_CURRENT_USER, kKey, L"SettingsPath", row.value);
-        InitLocations();
-        EXPECT_EQ(locations.SettingsPath, row.settings);
-        EXPECT_EQ(locations.IniFile, row.settings + L"VarnelDnc.ini");
-        EXPECT_EQ(ConfigurationFile(L"Mill 3"), row.settings + L"Mill 3.DCP");
+        SetRegText(HKEY_CURRENT_USER, key.Path() + L"\\Paths", L"SettingsPath", row.value);
+        const ProgramLocations moved = FindLocations(key.Path());
+        EXPECT_EQ(moved.SettingsPath, row.settings);
+        EXPECT_EQ(moved.IniFile, row.settings + L"VarnelDnc.ini");
     }
-    // The wizard makes the program's folder the current one later; the settings folder must not move with it.
-    SetCurrentDirectoryW(L"C:\\");
-    EXPECT_EQ(locations.IniFile, current + L"\\Dnc\\VarnelDnc.ini");
-    SetCurrentDirectoryW(current.c_str());
-    RegDeleteKeyValueW(HKEY_CURRENT_USER, kKey, L"SettingsPath");
-    InitLocations();
 }
 
 TEST(Locations, Folders) {
     InitLocations();
     EXPECT_EQ(locations.AppPath, TestFolder());
+    EXPECT_EQ(locations.ProgramFolder, TestFolder());
+    EXPECT_EQ(locations.SamplesPath, TestFolder() + L"Samples\\");
     EXPECT_EQ(locations.ExeName, L"unit_tests");
-    for (const std::wstring& folder : {locations.LocalAppDataPath, locations.CommonAppDataPath,
-                                       locations.CommonDocumentsPath, locations.ProgramFilesPath}) {
+    EXPECT_EQ(locations.LogPath, locations.CommonAppDataPath + L"Varnel DNC\\Log\\");
+    EXPECT_EQ(locations.TempPath, locations.LocalAppDataPath + L"Varnel DNC\\Temp\\");
+    EXPECT_EQ(ConfigurationFile(L"Mill 3"), locations.SettingsPath + L"Mill 3.DCP");
+    for (const std::wstring& folder :
+         {locations.LocalAppDataPath, locations.CommonAppDataPath, locations.MyDocumentsPath,
+          locations.CommonDocumentsPath, locations.ProgramFilesPath}) {
         EXPECT_TRUE(FolderExists(folder)) << Utf8(folder);
         EXPECT_TRUE(folder.ends_with(L'\\') && !folder.ends_with(L"\\\\")) << Utf8(folder);
     }
-    EXPECT_EQ(GetSpecialFolder(0x7777), L"");
+}
+
+TEST(Locations, TheIconFolderIsLookedForWhenItIsAskedFor) {
+    const ScratchSuite suite;
+    EXPECT_EQ(IconFolder(), suite.Path());
+    CreateDirectoryW((suite.Path() + L"Icons").c_str(), nullptr);
+    EXPECT_EQ(IconFolder(), suite.Path() + L"Icons\\");
 }

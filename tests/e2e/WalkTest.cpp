@@ -210,7 +210,10 @@ void ExpectRefusal(const Walk& walk, const Text& name, const Text& words) {
 // the wizard runs.
 void InProcess(const Walk& walk, const PageBook& book, void (*act)(frmWizard&, const Text&),
                const Text& text) {
-    const Text program = std::exchange(locations.AppPath, walk.suite.Folder());
+    const ProgramLocations own = locations;
+    ProgramLocations suites = own;
+    suites.AppPath = suites.ProgramFolder = walk.suite.Folder();
+    UseLocations(suites);
     wchar_t before[MAX_PATH] = L"";
     GetCurrentDirectoryW(MAX_PATH, before);
     SetCurrentDirectoryW(walk.suite.Folder().c_str());
@@ -218,7 +221,7 @@ void InProcess(const Walk& walk, const PageBook& book, void (*act)(frmWizard&, c
     form.ConfigName = L"Mill 3 \x00E4";
     act(form, text);
     SetCurrentDirectoryW(before);
-    locations.AppPath = program;
+    UseLocations(own);
 }
 
 // "1 17 0": of that wizard, on that page, the link of that index.

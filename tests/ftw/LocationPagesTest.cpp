@@ -76,14 +76,15 @@ TEST(LocationPages, WhatIsStored) {
 }
 
 TEST(LocationPages, NoDefaultFolderWithoutSharedDocuments) {
-    const std::wstring documents = locations.CommonDocumentsPath;
+    const ScratchSuite suite; // puts the locations back
     FormUnderTest test(kFirstTimeSetup);
     for (const bool found : {true, false}) {
-        locations.CommonDocumentsPath = found ? L"C:\\Docs\\" : L"";
+        ProgramLocations with = locations;
+        with.CommonDocumentsPath = found ? L"C:\\Docs\\" : L"";
+        UseLocations(with);
         test.Show(9);
         EXPECT_EQ(test.form.pool.lblHyperlink[1].Visible(), found);
     }
-    locations.CommonDocumentsPath = documents;
 }
 
 } // namespace

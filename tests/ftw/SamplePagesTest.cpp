@@ -10,7 +10,6 @@
 TEST(SamplePages, LeavesOutWhatTheShellCannotTake) {
     const ScratchSuite suite;
     const ScratchFolder samples;
-    locations.SamplesPath = samples;
     WriteFileBytes(samples.Path() + L"Mill.dcp", "sample");
     FormUnderTest test(kFirstTimeSetup);
     auto& list = test.form.pool.lstUserInput[0];
@@ -18,7 +17,10 @@ TEST(SamplePages, LeavesOutWhatTheShellCannotTake) {
     list.Send(LB_SETSEL, TRUE, -1);
     for (const std::wstring& settings : {suite.Path(), suite.Path() + std::wstring(260, L's') + L"\\"}) {
         const bool fits = settings == suite.Path();
-        locations.SettingsPath = settings;
+        ProgramLocations with = locations;
+        with.SamplesPath = samples;
+        with.SettingsPath = settings;
+        UseLocations(with);
         const auto boxes = Answering({IDOK}, [&] { ImportSelectedSamples(test.form); });
         std::vector<std::wstring> leftOut = {std::wstring(260, L'x')};
         if (!fits) leftOut.push_back(L"Mill");

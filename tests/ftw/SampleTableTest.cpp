@@ -1,5 +1,5 @@
 #include "tools/samples/SampleTable.h"
-#include "app/Names.h"
+#include "app/FileNames.h"
 
 #include <gtest/gtest.h>
 

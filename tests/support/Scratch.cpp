@@ -134,15 +134,15 @@ ScratchFolder::ScratchFolder() {
 ScratchFolder::~ScratchFolder() { Remove(path_.substr(0, path_.size() - 1)); }
 
 ScratchSuite::ScratchSuite() {
-    locations.SettingsPath = locations.AppPath = Path();
-    locations.IniFile = Path() + kIniName;
+    ProgramLocations scratch = locations;
+    scratch.SettingsPath = scratch.AppPath = scratch.ProgramFolder = Path();
+    scratch.IniFile = Path() + suite::kIniFile;
+    UseLocations(scratch);
 }
 
 ScratchSuite::~ScratchSuite() {
     FlushIni();
-    locations.SettingsPath = settings_;
-    locations.IniFile = ini_;
-    locations.AppPath = program_;
+    UseLocations(before_);
 }
 
 ScratchKey::ScratchKey() : path_(L"Software\\" + UniqueName()) {

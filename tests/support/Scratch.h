@@ -53,8 +53,7 @@ class ScratchSuite : public ScratchFolder {
     std::string Ini() const { return FileBytes(locations.IniFile); }
 
   private:
-    const std::wstring settings_ = locations.SettingsPath, ini_ = locations.IniFile,
-                       program_ = locations.AppPath;
+    const ProgramLocations before_ = locations;
 };
 
 class ScratchKey {

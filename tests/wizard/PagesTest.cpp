@@ -71,7 +71,9 @@ std::string NewDevice() {
 
 TEST(Pages, LookAsWrittenDown) {
     const ScratchSuite suite; // without samples and settings
-    locations.SettingsPath = L"C:\\Dnc\\";
+    ProgramLocations shown = locations;
+    shown.SettingsPath = L"C:\\Dnc\\";
+    UseLocations(shown);
     const std::string looks = FirstTimeSetup() + NewDevice();
     const std::string written = FileBytes(TestFolder() + L"..\\..\\tests\\wizard\\pages.txt");
     if (looks == written) return;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -26,15 +25,6 @@ bool HasControlChar(std::wstring_view text);
 
 // Windows drops dots at the end of a name, so such a name would make a file of another name.
 bool EndsInDot(std::wstring_view name);
-
-// Without the blanks (code 32 only) at both ends.
-std::wstring TrimBlanks(std::wstring_view text);
-
-// The number that `text` begins with, as the settings file holds numbers: blanks in front are skipped,
-// then a sign may stand, then decimal digits; what follows is ignored ("16 x" is 16). Without a digit
-// the value is 0. A number beyond 32 bits becomes the nearest one that has 32 bits; callers that need
-// 16 bits must compare before they narrow.
-std::int32_t NumericValue(std::wstring_view text);
 
 // The receive file extension as typed by the user: blanks at both ends and then one leading "." are
 // dropped. Nothing when the rest is longer than 3 characters or holds a ".", a control character or one

@@ -1,10 +1,10 @@
-#include "app/Names.h"
+#include "app/FileNames.h"
 
 #include "app/AsciiCase.h"
+#include "app/Blanks.h"
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
 namespace {
 
@@ -34,27 +34,6 @@ bool HasControlChar(std::wstring_view text) {
 }
 
 bool EndsInDot(std::wstring_view name) { return !name.empty() && name.back() == L'.'; }
-
-std::wstring TrimBlanks(std::wstring_view text) {
-    const std::size_t first = text.find_first_not_of(L' ');
-    if (first == std::wstring_view::npos) return {};
-    return std::wstring(text.substr(first, text.find_last_not_of(L' ') - first + 1));
-}
-
-std::int32_t NumericValue(std::wstring_view text) {
-    text.remove_prefix(std::min(text.find_first_not_of(L' '), text.size()));
-    const bool negative = !text.empty() && text.front() == L'-';
-    if (negative || (!text.empty() && text.front() == L'+')) text.remove_prefix(1);
-
-    using Limits = std::numeric_limits<std::int32_t>;
-    std::int64_t value = 0;
-    for (const wchar_t c : text) {
-        if (c < L'0' || c > L'9' || value > Limits::max()) break;
-        value = value * 10 + (c - L'0');
-    }
-    if (negative) value = -value;
-    return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
-}
 
 std::optional<std::wstring> CheckedExtension(std::wstring_view typed) {
     std::wstring extension = TrimBlanks(typed);

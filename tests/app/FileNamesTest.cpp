@@ -1,10 +1,8 @@
-#include "app/Names.h"
+#include "app/FileNames.h"
 
 #include <gtest/gtest.h>
 
-#include <limits>
-
-TEST(Names, Checks) {
+TEST(FileNames, Checks) {
     struct Row {
         std::wstring_view name;
         std::string_view faults; // "i"nvalid, "r"eserved, "c"ontrol character, ends in a "d"ot
@@ -29,33 +27,14 @@ TEST(Names, Checks) {
     }
 }
 
-TEST(Names, InvalidCharsAreTheseNine) {
+TEST(FileNames, InvalidCharsAreTheseNine) {
     std::wstring found;
     for (wchar_t c = 0; c < 0xffff; ++c)
         if (IsInvalidChar(c)) found += c;
     EXPECT_EQ(found, L"\"*/:<>?\\|");
 }
 
-TEST(Names, TrimBlanks) {
-    EXPECT_EQ(TrimBlanks(L"  a b "), L"a b");
-    EXPECT_EQ(TrimBlanks(L"\ta\u00a0 "), L"\ta\u00a0");
-    EXPECT_EQ(TrimBlanks(L"   "), L"");
-}
-
-TEST(Names, NumericValue) {
-    using Limits = std::numeric_limits<std::int32_t>;
-    // clang-format off
-    const std::pair<std::wstring_view, std::int32_t> rows[] = {
-        {L"", 0},    {L"abc", 0},  {L"16", 16}, {L"  16 x", 16},    {L"-3", -3}, {L"+7.9", 7}, {L"- 3", 0},
-        {L"--3", 0}, {L"\t5", 0},  {L"007", 7}, {L"32768", 32768},  {L"-", 0},   {L"   ", 0},  {L"1e3", 1},
-        {L"2147483648", Limits::max()}, {L"-2147483648", Limits::min()}, {L"-99999999999999999999999", Limits::min()},
-    };
-    // clang-format on
-    for (const auto& [text, value] : rows)
-        EXPECT_EQ(NumericValue(text), value) << testing::PrintToString(text);
-}
-
-TEST(Names, CheckedExtension) {
+TEST(FileNames, CheckedExtension) {
     // clang-format off
     const std::pair<std::wstring_view, std::optional<std::wstring>> rows[] = {
         {L"", L""},      {L"  ", L""},  {L".", L""},      {L"nc", L"nc"}, {L" .NC ", L"NC"}, {L".MIN", L"MIN"},
