@@ -211,8 +211,7 @@ void frmIcons::ShowScrollBar() {
     info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
     info.nMin = 1;
     info.nMax = strip_.count;
-    info.nPage =
-        kIconSlots; // the system takes it off the end of the range: ScrollMaximum() is the last place
+    info.nPage = kIconSlots; // the last place of the thumb is ScrollMaximum()
     info.nPos = strip_.scroll;
     if (NeedsScrollBar(strip_.count)) SetScrollInfo(hScrollIcons.Handle(), SB_CTL, &info, TRUE);
 }

@@ -68,7 +68,7 @@ TEST(frmIcons, KeysChooseAndTheWheelScrolls) {
                 {"]{", L"I06", 6},        {"][", L"I01", 1},     {"m", L"Mill", 6},  {"i1", L"I10", 5},
                 {"\xFC", L"\x00DC&D", 7}, {"--", L"I01", 7},     {"-->", L"I02", 1}};
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.signs);
+        SCOPED_TRACE(testing::PrintToString(row.picked));
         frmIcons form;
         Pick(form, folder, row.signs);
         EXPECT_EQ(form.Result(), row.picked + std::wstring(L".ico"));
