@@ -11,17 +11,6 @@
 
 namespace {
 
-// The shell's file operation takes paths of less than MAX_PATH characters. Some versions make something else
-// of a longer or an empty one: the current folder.
-bool FitsShell(const std::wstring& files) {
-    std::size_t start = 0;
-    for (std::size_t end = 0; end != files.npos; start = end + 1) {
-        end = files.find(L'\0', start);
-        if (std::min(end, files.size()) - start >= MAX_PATH) return false;
-    }
-    return !files.empty() && files.front() != L'\0';
-}
-
 bool ShellOperation(UINT function, const std::wstring& from, const std::wstring* to, unsigned flags,
                     HWND owner) {
     if (!FitsShell(from) || (to && !FitsShell(*to))) return false;
@@ -67,6 +56,15 @@ std::vector<std::wstring> ListFiles(const std::wstring& folder, const std::wstri
             names.push_back(name);
     } while (FindNextFileW(search.Get(), &found));
     return names;
+}
+
+bool FitsShell(const std::wstring& files) {
+    std::size_t start = 0;
+    for (std::size_t end = 0; end != files.npos; start = end + 1) {
+        end = files.find(L'\0', start);
+        if (std::min(end, files.size()) - start >= MAX_PATH) return false;
+    }
+    return !files.empty() && files.front() != L'\0';
 }
 
 bool CopyFiles(const std::wstring& files, const std::wstring& folder, std::int16_t flags, HWND owner) {

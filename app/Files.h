@@ -18,6 +18,11 @@ bool FolderExists(const std::wstring& path);
 // `extension` (".dcp", any case), in the order in which the system lists them.
 std::vector<std::wstring> ListFiles(const std::wstring& folder, const std::wstring& extension);
 
+// Whether the shell's file operation can take `files` (a path, or a list of them): each has less than
+// MAX_PATH characters and the first is not empty. Some versions make something else of others: the current
+// folder.
+bool FitsShell(const std::wstring& files);
+
 // The shell's copy of `files` (full paths, each followed by a NUL) into `folder`. `flags` are FOF_… values,
 // 0 means FOF_ALLOWUNDO. True when the shell reports success and the user refused nothing.
 bool CopyFiles(const std::wstring& files, const std::wstring& folder, std::int16_t flags, HWND owner);

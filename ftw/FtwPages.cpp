@@ -4,6 +4,7 @@
 #include "app/Numbers.h"
 #include "app/Settings.h"
 #include "app/StartUp.h"
+#include "ftw/FtwLinks.h"
 #include "shell/ShortcutsPage.h"
 #include "shell/modShellLink.h"
 #include "wizard/frmWizard.h"
@@ -14,11 +15,15 @@ namespace {
 
 void Load(frmWizard&) {
     ftwSession = {};
-    ftwSession.maxProgress = NumericValue(TrimBlanks(ReadIniString(L"General", L"FTSW_MaxProgress", L"")));
+    ftwSession.maxProgress =
+        NumericValue(TrimBlanks(ReadIniString(suite::kGeneral, suite::kMaxProgress, L"")));
 }
 
+// A page that has icons shows them itself.
 void BeforeShow(frmWizard& form) { ShowAppIcons(form, kNoAppIcon); }
 
+// The chosen setup mode decides where Next leads, and whether the wizard goes on at all. That page is not
+// counted as progress.
 bool TakesOverNext(frmWizard& form) {
     if (form.PageNo != kFtwChoosePage) return false;
     ChooseInstallType(form);
@@ -46,7 +51,7 @@ constexpr PageBook kBook{
 
 const PageBook& FtwBook() { return kBook; }
 
-void PageFtwShortcuts(frmWizard& form) { BuildShortcutsPage(form, ftwSession.shortcutChoice); }
+void PageFtwShortcuts(frmWizard& form) { BuildShortcutsPage(form, ftwSession.shortcutChoice, kFtwLinks); }
 
 void LeaveFtwShortcuts(frmWizard& form, Move move) {
     ftwSession.shortcutChoice = LeaveShortcutsPage(form, move);

@@ -5,23 +5,25 @@
 #include "ftw/TransmitRoot.h"
 #include "wizard/Page.h"
 
+#include <cstddef>
 #include <cstdint>
 
 class frmWizard;
 
 struct FtwSession {
-    std::int32_t maxProgress = 0;       // FTSW_MaxProgress as it was at load
-    bool keepConfiguration = false;     // the user keeps what is configured
-    CncLocation location;               // as typed
-    std::int16_t shortcutChoice = 0xFF; // bit 0 desktop, 1 Start menu, 2 Quick Launch bar
-    int selectedSamples = 0;            // on the import page, when it was left
+    std::int32_t maxProgress = 0;               // FTSW_MaxProgress as it was at load
+    bool keepConfiguration = false;             // the user keeps what is configured
+    CncLocation location;                       // as typed, without quotation marks
+    std::size_t locationLimit = kLocationLimit; // bytes; of a kept location its own length when that is more
+    std::int16_t shortcutChoice = 0xFF;         // bit 0 desktop, 1 Start menu, 2 Quick Launch bar
+    int selectedSamples = 0;                    // on the import page, when it was left
 };
 
 extern FtwSession ftwSession;
 
 const PageBook& FtwBook();
 
-// What a link of the present page starts; a page or index without an entry does nothing.
+// A link of the present page was clicked (kFtwLinks).
 void FtwHyperlink(frmWizard& form, std::int16_t index);
 
 void PageFtwWelcome(frmWizard& form);
@@ -53,7 +55,8 @@ void ChooseInstallType(frmWizard& form);
 // Stores the location and creates its folder. A failed write is told, a failed creation is not.
 void SaveTransmitRoot(frmWizard& form);
 
-// Copies the samples that are selected on the import page into the settings folder.
+// Copies the samples that are selected on the import page into the settings folder. Those whose path is too
+// long for the shell are left out, and one box names them.
 void ImportSelectedSamples(frmWizard& form);
 
 // Without a selected sample there is nothing to edit.

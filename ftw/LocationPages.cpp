@@ -4,6 +4,8 @@
 #include "app/CodePage.h"
 #include "app/Files.h"
 #include "app/Settings.h"
+#include "app/modLocations.h"
+#include "ftw/FtwLinks.h"
 #include "ftw/FtwPages.h"
 #include "ftw/TransmitRoot.h"
 #include "wizard/Markup.h"
@@ -11,24 +13,33 @@
 
 namespace {
 
+constexpr std::size_t kDefaultFolderLink = 1;
+
 std::wstring LocationBlock(const std::wstring& folders) {
-    const std::wstring path = LocationPath(folders);
     if (TrimBlanks(folders).empty())
         return L"Click <b>Next</b> to allow access to all files on your computer.";
-    const std::wstring shown = L"     <b>" + WithoutTags(folders) + L"</b>";
-    if (FolderExists(path))
+    const std::wstring shown = L"     <b>" + WithoutTags(ShownLocation(folders)) + L"</b>";
+    if (FolderExists(LocationPath(folders)))
         return L"Click <b>Next</b> to confirm the location of your CNC program files:\r\n" + shown;
     return L"<b><r>The folder you specified does not exist:</r></b>\r\n" + shown +
            L"\r\n\r\nClick <b>Next</b> to create a new folder with this name.";
 }
 
-// What keeps the value from being written, "" when nothing does. A character that the file cannot hold
-// would turn into another one there.
-std::wstring WriteProblem(const std::wstring& value) {
+std::wstring Refusal(const std::wstring& reason) {
+    return IniWriteError().Description() + L"\r\n\r\n" + reason;
+}
+
+// What keeps the location from being stored, "" when nothing does. A character that the file cannot hold
+// would turn into another one there, and of a longer value the suite's programs would read the beginning.
+std::wstring WriteProblem(const CncLocation& location) {
+    const std::wstring value = TransmitRootValue(location);
     if (const auto foreign = FirstNotInAnsi(value))
-        return IniWriteError().Description() + L"\r\n\r\nIt cannot hold the character \"" + *foreign + L"\".";
+        return Refusal(L"It cannot hold the character \"" + *foreign + L"\".");
+    if (AnsiSize(TrimBlanks(location.folders)) > ftwSession.locationLimit)
+        return Refusal(L"The file location is too long: up to " + std::to_wstring(kLocationLimit) +
+                       L" characters are allowed, and some letters count as two or three.");
     try {
-        WriteIniString(kTransmitRootKey, value);
+        WriteIniString(suite::kTransmitRoot, value);
     } catch (const win::AppError& error) {
         return error.Description();
     }
@@ -39,36 +50,40 @@ std::wstring WriteProblem(const std::wstring& value) {
 
 void PageFtwLocation(frmWizard& form) {
     form.WriteHeading(L"Specify CNC file location");
+    // clang-format off
     form.WriteInfo(
-        L"You can let Varnel DNC access all files on your computer, or you can restrict access to one or "
-        L"more "
-        L"specific local or network folders.\r\n\r\n"
-        L"To access all files on your computer, leave file location blank. To select an existing folder, "
-        L"type "
-        L"a folder name or click <b>Browse...</b>. To specify multiple folders, separate folders with a "
-        L"semicolon (;).\r\n\r\n"
+        L"You can let Varnel DNC access all files on your computer, or you can restrict access to one or more specific local or network folders.\r\n\r\n"
+        L"To access all files on your computer, leave file location blank. To select an existing folder, type a folder name or click <b>Browse...</b>. To specify multiple folders, separate folders with a semicolon (;).\r\n\r\n"
         L"To create a default folder to store your files, click <b>Default folder...</b>.");
-    const std::wstring& folders = ftwSession.location.folders;
+    // clang-format on
     InputColumn column(form);
     column.Width(layout::kTextWidth);
     column.Prompt(0, L"Enter CNC file &location");
-    column.TextBox(0, folders, static_cast<int>(std::max(kLocationLimit, folders.size()))).Focus();
-    column.Link(0, L"Browse existing folders");
-    column.Link(1, L"Default folder");
+    // The box counts characters, of which none takes less than a byte: the bytes are counted when it is
+    // stored.
+    column.TextBox(0, ftwSession.location.folders, static_cast<int>(ftwSession.locationLimit)).Focus();
+    column.Links(kFtwLinks, form.PageNo);
+    if (locations.CommonDocumentsPath.empty()) form.pool.lblHyperlink[kDefaultFolderLink].Visible(false);
 }
 
+// A kept location that was only looked at stays as it is.
 void LeaveFtwLocation(frmWizard& form, Move move) {
-    if (move != Move::Skip) ftwSession.location.folders = form.pool.txtUserInput[0].Text();
+    const std::wstring typed = form.pool.txtUserInput[0].Text();
+    std::wstring& folders = ftwSession.location.folders;
+    if (move != Move::Skip && typed != folders) folders = WithoutQuotes(typed);
 }
 
 void PageFtwConfirmLocation(frmWizard& form) {
-    form.WriteHeading(L"Confirm CNC file location");
-    form.WriteInfo(LocationBlock(ftwSession.location.folders) +
-                   L"\r\n\r\nClick <b>Back</b> to choose a different file location.\r\n\r\n"
-                   L"You can change the file location or add more folders later by clicking <b>Root "
-                   L"folders</b> in the Varnel DNC File Manager's <b>Configure</b> menu.");
-    // Hidden, but read when the page is left: another page has used the box for something else.
+    // Hidden, but read when the page is left: another page has used the box for something else. It comes
+    // first, so that it is right whatever becomes of the text.
     form.pool.chkUserInput[0].Checked(ftwSession.location.floppy);
+    form.WriteHeading(L"Confirm CNC file location");
+    // clang-format off
+    form.WriteInfo(
+        LocationBlock(ftwSession.location.folders) + L"\r\n\r\n"
+        L"Click <b>Back</b> to choose a different file location.\r\n\r\n"
+        L"You can change the file location or add more folders later by clicking <b>Root folders</b> in the Varnel DNC File Manager's <b>Configure</b> menu.");
+    // clang-format on
 }
 
 void LeaveFtwConfirmLocation(frmWizard& form, Move move) {
@@ -76,8 +91,9 @@ void LeaveFtwConfirmLocation(frmWizard& form, Move move) {
     if (move != Move::Skip) ftwSession.location.floppy = form.pool.chkUserInput[0].Checked();
 }
 
+// Whatever becomes of the setting, the folder is wanted: it is made also when the write was refused.
 void SaveTransmitRoot(frmWizard& form) {
-    const std::wstring problem = WriteProblem(TransmitRootValue(ftwSession.location));
+    const std::wstring problem = WriteProblem(ftwSession.location);
     FlushIni();
     if (!problem.empty()) win::ShowMessageBox(form.Hwnd(), problem, MB_OK | MB_ICONEXCLAMATION);
     const std::wstring path = LocationPath(ftwSession.location.folders);

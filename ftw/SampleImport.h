@@ -15,5 +15,9 @@ std::vector<std::wstring> SampleEntries(const std::vector<std::wstring>& fileNam
 // `count` is at least 1.
 std::wstring ImportQuestion(int count);
 
+// Tells of the selected samples (at least one) that are left out because a path is too long for the shell. Of
+// many the first ones are named.
+std::wstring LeftOutMessage(const std::vector<std::wstring>& entries);
+
 // The files of the entries below `folder` (ends in a backslash), each path followed by a NUL.
 std::wstring SampleFileList(std::wstring_view folder, const std::vector<std::wstring>& entries);

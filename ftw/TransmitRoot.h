@@ -11,9 +11,7 @@
 #include <string>
 #include <string_view>
 
-inline constexpr wchar_t kTransmitRootKey[] = L"TransmitRoot";
-
-// What the programs of the suite can read back of it: 254 characters, less ";" and "A:;".
+// What the programs of the suite can read back of it, in bytes: 254, less ";" and "A:;".
 inline constexpr std::size_t kLocationLimit = 250;
 
 struct CncLocation {
@@ -21,16 +19,23 @@ struct CncLocation {
     bool floppy = false;  // "A:" is offered besides
 };
 
+// Without the pair of quotation marks around it, or around a folder of it, with which a path is copied from
+// the Explorer. Blanks around such a pair go with it.
+std::wstring WithoutQuotes(const std::wstring& typed);
+
 // The value to store. Blanks around the folders are dropped.
 std::wstring TransmitRootValue(const CncLocation& location);
 
-// The way back, for a user who keeps his configuration: storing the result gives `value` again. An absent
-// value is the empty text.
+// The way back, for a user who keeps his configuration: storing the result gives `value` again, with the ";"
+// at its end that one written by hand may lack. The absent value is the empty text.
 CncLocation ReadTransmitRoot(std::wstring_view value);
 
 // The folders as one path, to be tested or created: without blanks around it and without one ";" at its
 // end. Empty for the whole computer.
 std::wstring LocationPath(std::wstring_view folders);
+
+// As a page shows it: of a very long one the beginning and "…".
+std::wstring ShownLocation(const std::wstring& folders);
 
 // More than one folder: such a path exists only by a freak and is never created.
 bool IsFolderList(std::wstring_view path);

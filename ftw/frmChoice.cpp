@@ -89,6 +89,7 @@ win::Button& frmChoice::Form_Load() {
     return *selected;
 }
 
+// None is selected only when the dialog began with none: the choice before it stays.
 void frmChoice::Form_Unload() {
     const auto selected = std::find_if(optChoice.begin(), optChoice.end(),
                                        [](win::Button& option) { return option.Checked(); });

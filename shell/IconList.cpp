@@ -1,14 +1,22 @@
 #include "shell/IconList.h"
 
+#include "app/CodePage.h"
 #include "app/Files.h"
 #include "app/Paths.h"
+#include "app/Suite.h"
 #include "shell/IconStrip.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
-constexpr wchar_t kIconExtension[] = L".ICO";
+// A configuration has room for a name of so many bytes, with its extension, and a byte for each character.
+constexpr std::size_t kNameRoom = 64;
+
+bool FitsConfiguration(const std::wstring& key) {
+    return key.size() + std::size(suite::kIconExtension) - 1 <= kNameRoom && !FirstNotOneByte(key);
+}
 
 bool Precedes(const std::wstring& left, const std::wstring& right) {
     return CompareStringW(LOCALE_USER_DEFAULT, NORM_IGNORECASE | SORT_STRINGSORT, left.c_str(), -1,
@@ -27,25 +35,26 @@ class Canvas {
 
     bool AddTo(HIMAGELIST list, HICON icon) const {
         const RECT all{0, 0, pixels_, pixels_};
-        const HGDIOBJ before = SelectObject(dc_.Get(), bitmap_.Get());
-        FillRect(dc_.Get(), &all, GetSysColorBrush(COLOR_WINDOW));
-        const BOOL drawn = DrawIconEx(dc_.Get(), 0, 0, icon, pixels_, pixels_, 0, nullptr, DI_NORMAL);
-        SelectObject(dc_.Get(), before); // the list wants it free
-        return drawn && ImageList_Add(list, bitmap_.Get(), nullptr) >= 0;
+        {
+            const win::SelectedObject selected(dc_.Get(), bitmap_.Get()); // the list wants it free
+            FillRect(dc_.Get(), &all, GetSysColorBrush(COLOR_WINDOW));
+            if (!DrawIconEx(dc_.Get(), 0, 0, icon, pixels_, pixels_, 0, nullptr, DI_NORMAL)) return false;
+        }
+        return ImageList_Add(list, bitmap_.Get(), nullptr) >= 0;
     }
 
   private:
     int pixels_;
     win::UniqueBitmap bitmap_;
-    win::Unique<HDC, DeleteDC> dc_; // goes first
+    win::UniqueMemoryDc dc_; // goes first
 };
 
 } // namespace
 
 std::vector<std::wstring> IconKeys(const std::wstring& folder) {
     std::vector<std::wstring> keys;
-    for (const std::wstring& file : ListFiles(folder, kIconExtension))
-        if (std::wstring key = SplitPath(file, kNameWithoutExtension); !key.empty())
+    for (const std::wstring& file : ListFiles(folder, suite::kIconExtension))
+        if (std::wstring key = SplitPath(file, kNameWithoutExtension); !key.empty() && FitsConfiguration(key))
             keys.push_back(std::move(key));
     std::sort(keys.begin(), keys.end(), Precedes);
     keys.resize(std::min<std::size_t>(keys.size(), kMostIcons));
@@ -60,8 +69,9 @@ IconList::IconList(const std::wstring& folder, const std::vector<std::wstring>& 
     const Canvas canvas(pixels);
     keys_.reserve(keys.size());
     for (const std::wstring& key : keys) {
-        const win::UniqueIcon icon(static_cast<HICON>(LoadImageW(
-            nullptr, (folder + key + kIconExtension).c_str(), IMAGE_ICON, pixels, pixels, LR_LOADFROMFILE)));
+        const win::UniqueIcon icon(
+            static_cast<HICON>(LoadImageW(nullptr, (folder + key + suite::kIconExtension).c_str(), IMAGE_ICON,
+                                          pixels, pixels, LR_LOADFROMFILE)));
         if (icon && canvas.AddTo(pictures_.Get(), icon.Get())) keys_.push_back(key);
     }
 }

@@ -13,7 +13,8 @@
 #include <vector>
 
 // Names of the ".ico" files in `folder` (ends in a backslash) without the extension, ascending without
-// regard to case.
+// regard to case. One that a configuration cannot name is left out: with ".ico" longer than 64 characters, or
+// with a character that is not exactly one byte in the system's code page.
 std::vector<std::wstring> IconKeys(const std::wstring& folder);
 
 class IconList {

@@ -26,6 +26,7 @@ IconStrip OpenStrip(std::int16_t count, std::int16_t selected) {
     return strip;
 }
 
+// With fewer icons than slots the strip is never scrolled, so their number is the last slot in use.
 IconStrip ClickSlot(IconStrip strip, std::int16_t slot) {
     if (strip.count < 1) return strip;
     strip.selected = static_cast<std::int16_t>(strip.scroll + std::min(slot, strip.count) - 1);
@@ -107,7 +108,8 @@ void TypedLetters::Add(wchar_t letter, std::uint32_t letterTime_ms) {
 
 std::optional<std::int16_t> FindByLetters(const std::vector<std::wstring>& keys, std::int16_t selected,
                                           std::wstring_view letters, wchar_t (*upper)(wchar_t)) {
-    const std::size_t begin = letters.size() > 1 ? 0 : 1; // 1: behind the chosen one
+    // The same letter once more would find the chosen icon again. A word that grows may still mean it.
+    const std::size_t begin = letters.size() > 1 ? 0 : 1;
     for (std::size_t i = begin; i < keys.size() + begin; ++i) {
         const std::size_t index = (static_cast<std::size_t>(selected - 1) + i) % keys.size();
         if (BeginsWith(keys[index], letters, upper)) return static_cast<std::int16_t>(index + 1);
@@ -116,6 +118,7 @@ std::optional<std::int16_t> FindByLetters(const std::vector<std::wstring>& keys,
     return isRepeated ? FindByLetters(keys, selected, letters.substr(0, 1), upper) : std::nullopt;
 }
 
+// The product, not the quotient, is kept: with fine wheels each message is worth less than an icon.
 int WheelIcons(int& rest, int turned, unsigned iconsPerNotch) {
     rest -= turned * static_cast<int>(std::min<unsigned>(iconsPerNotch, kIconSlots));
     const int icons = rest / kNotch;

@@ -15,7 +15,7 @@ inline constexpr std::int16_t kMostIcons = 32767; // what a position can count
 struct IconStrip {
     std::int16_t count = 0;    // icons in the list
     std::int16_t selected = 1; // position of the chosen icon
-    std::int16_t scroll = 1;   // position shown in the first slot
+    std::int16_t scroll = 1;   // position of the icon in slot 1
 
     bool operator==(const IconStrip&) const = default;
 };

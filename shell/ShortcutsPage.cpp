@@ -39,12 +39,14 @@ void AddPlaceBoxes(InputColumn& column, std::int16_t choice) {
 
 } // namespace
 
-void BuildShortcutsPage(frmWizard& form, std::int16_t choice) {
+void BuildShortcutsPage(frmWizard& form, std::int16_t choice, std::span<const LinkRow> links) {
     form.WriteHeading(L"Specify Application Shortcuts");
+    // clang-format off
     form.WriteInfo(
         L"You can start Varnel DNC applications using shortcuts provided in the Windows Start menu.\r\n\r\n"
         L"You can create additional File Manager shortcuts by selecting the options below.\r\n\r\n"
         L"For even more shortcut options, click <b>Shortcut Manager</b>.");
+    // clang-format on
     InputColumn column(form);
     AddPlaceBoxes(column, choice);
     column.Width(layout::kTextWidth);
@@ -53,14 +55,15 @@ void BuildShortcutsPage(frmWizard& form, std::int16_t choice) {
     column.Left(kBesideIcon);
     column.Width(layout::kTextRight - kBesideIcon);
     column.Top(layout::kAppIconTop - kAboveIcon);
-    column.Link(0, L"Varnel DNC Shortcut Manager");
-    column.Prompt(1, L"Shortcut Manager lets you create and customize shortcuts for all Varnel application",
-                  2);
+    column.Links(links, form.PageNo);
+    // clang-format off
+    column.Prompt(1, L"Shortcut Manager lets you create and customize shortcuts for all Varnel application", 2); // sic
+    // clang-format on
     ShowAppIcons(form, kFirstAppIcon);
 }
 
 std::int16_t LeaveShortcutsPage(frmWizard& form, Move move) {
     const std::int16_t choice = CheckedBits(form.pool, std::size(kPlaceBoxes));
-    if (move == Move::Next && form.MovingNext) UpdateShortcuts(form.Hwnd(), choice);
+    if (move == Move::Next) UpdateShortcuts(form.Hwnd(), choice);
     return choice;
 }

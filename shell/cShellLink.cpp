@@ -3,6 +3,7 @@
 #include "app/Blanks.h"
 #include "app/CodePage.h"
 #include "app/Com.h"
+#include "app/SpecialFolders.h"
 
 #include <objbase.h>
 #include <shlobj.h>
@@ -11,7 +12,8 @@ namespace {
 
 constexpr int kBufferLength = 255;
 
-// Brings the link's stored data up to date. A target that is missing is neither searched for nor asked about.
+// Brings the link's stored data up to date. Without the other two the shell would look for a missing target
+// on every drive and then ask the user.
 constexpr DWORD kResolve = DWORD{SLR_UPDATE} | SLR_NO_UI | SLR_NOSEARCH;
 
 // A link object with its two faces; null in `link` when the shell has none to give.
@@ -38,16 +40,13 @@ std::optional<std::wstring> TextOf(IShellLinkA& link, TextGetter getter) {
 
 } // namespace
 
-std::optional<std::wstring> cShellLink::GetSystemFolderPath(HWND ownerWindow, std::int32_t folderId) const {
-    PIDLIST_ABSOLUTE items = nullptr;
-    if (SHGetSpecialFolderLocation(ownerWindow, folderId, &items) != S_OK) return std::nullopt;
-    wchar_t buffer[MAX_PATH] = L""; // what the shell wants at least
-    const bool found = SHGetPathFromIDListW(items, buffer) != FALSE;
-    CoTaskMemFree(items);
-    std::wstring path = TrimBlanks(buffer);
-    if (!found || path.empty()) return std::nullopt;
-    if (path.back() == L'\\') path.pop_back(); // some versions leave one
-    return path;
+bool cShellLink::GetSystemFolderPath(HWND ownerWindow, std::int32_t folderId, std::wstring& path) const {
+    const auto found = SpecialFolderPath(ownerWindow, folderId);
+    if (!found) return false;
+    std::wstring folder = TrimBlanks(*found);
+    if (folder.ends_with(L'\\')) folder.pop_back(); // some versions leave one
+    if (!folder.empty()) path = folder;
+    return true;
 }
 
 bool cShellLink::CreateShellLink(const std::wstring& linkFile, const std::wstring& target,
@@ -58,8 +57,9 @@ bool cShellLink::CreateShellLink(const std::wstring& linkFile, const std::wstrin
     const LinkObject object;
     if (!object) return false;
     IShellLinkA& link = *object.link.Get();
+    // With another character in its place a path would lead nowhere, or somewhere else.
     const auto apply = [](const std::wstring& text, auto set) {
-        return text.empty() || SUCCEEDED(set(ToAnsi(text).c_str()));
+        return text.empty() || (!FirstNotInAnsi(text) && SUCCEEDED(set(ToAnsi(text).c_str())));
     };
     return apply(target, [&](const char* text) { return link.SetPath(text); }) &&
            apply(workingFolder, [&](const char* text) { return link.SetWorkingDirectory(text); }) &&

@@ -23,12 +23,15 @@ struct ShellLinkInfo {
 
 class cShellLink {
   public:
-    // The full path of a CSIDL_… folder without a backslash at its end; none when the shell knows no such
-    // folder. `ownerWindow` may be null.
-    std::optional<std::wstring> GetSystemFolderPath(HWND ownerWindow, std::int32_t folderId) const;
+    // The full path of a CSIDL_… folder without a backslash at its end. False when the shell knows no such
+    // folder. `path` is left as it is then, and also when the shell's answer is blank, which is no failure.
+    // `ownerWindow` may be null.
+    bool GetSystemFolderPath(HWND ownerWindow, std::int32_t folderId, std::wstring& path) const;
 
     // Writes `linkFile` (full path), over an old one of that name. `workingFolder`, `arguments` and
-    // `iconFile` are applied only when not empty. The target need not exist. True when the file was written.
+    // `iconFile` are applied only when not empty. True when the file was written. False, with no file, for a
+    // text that the system's code page cannot hold exactly; whether a target that does not exist gets its
+    // link is the shell's affair.
     bool CreateShellLink(const std::wstring& linkFile, const std::wstring& target,
                          const std::wstring& workingFolder, const std::wstring& arguments,
                          const std::wstring& iconFile, std::int32_t iconIndex,

@@ -81,7 +81,8 @@ void DrawFrame(HDC dc, RECT area) {
 
 } // namespace
 
-bool ArrowButton::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
+// Without DLGC_WANTCHARS a letter would be taken for an access key.
+bool PickerButton::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
     if (message == WM_GETDLGCODE) {
         result = SystemProcedure(message, wParam, lParam) | DLGC_WANTARROWS | DLGC_WANTCHARS;
         return true;
@@ -104,6 +105,8 @@ frmIcons::frmIcons() {
         };
 }
 
+// BS_NOTIFY tells a double click from two clicks. The scroll bar is no tab stop: on it the arrow keys would
+// scroll instead of choosing.
 void frmIcons::BindControls() {
     for (std::size_t i = 0; i < imgIcon.size(); ++i)
         imgIcon[i].Bind(*this, kSlotId + static_cast<int>(i), L"Button",
@@ -122,7 +125,7 @@ void frmIcons::OpenForm(const std::wstring& folder, HWND owner) {
     folder_ = folder;
     const std::vector<std::wstring> keys = IconKeys(folder);
     {
-        const Disabled meanwhile(owner);
+        const Disabled meanwhile(owner); // what is pumped must not open the picker twice
         win::PumpPendingMessages();
     }
     icons_.emplace(folder, keys, win::Px(kIconSide));
@@ -157,7 +160,7 @@ void frmIcons::LayOut() {
 
 // The strip comes last, so that it lies behind its slots.
 void frmIcons::ShowControls() {
-    for (ArrowButton& slot : imgIcon)
+    for (PickerButton& slot : imgIcon)
         slot.Visible(true);
     hScrollIcons.Visible(NeedsScrollBar(icons_->Count()));
     win::Control* const others[] = {&lblIconName, &lblnIcons, &cmdOK, &cmdCancel, &picIcons};
@@ -168,7 +171,8 @@ void frmIcons::ShowControls() {
     DefaultButton(cmdOK);
 }
 
-// In the middle of the owner, but whole on the screen.
+// In the middle of the owner, but whole on the screen. Only a window that is owned stays in front of its
+// owner.
 void frmIcons::MoveOver(HWND owner) {
     SetWindowLongPtrW(Hwnd(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
     const RECT area = win::WorkArea();
@@ -195,7 +199,7 @@ void frmIcons::Show(const IconStrip& strip) {
 
 void frmIcons::UpdateIcons() {
     for (std::int16_t slot = 1; slot <= kIconSlots; ++slot) {
-        ArrowButton& image = imgIcon[static_cast<std::size_t>(slot - 1)];
+        PickerButton& image = imgIcon[static_cast<std::size_t>(slot - 1)];
         const auto position = PositionInSlot(strip_, slot);
         image.Text(position ? AsCaption(icons_->Key(*position)) : std::wstring());
         image.Repaint();
@@ -208,8 +212,7 @@ void frmIcons::ShowScrollBar() {
     info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
     info.nMin = 1;
     info.nMax = strip_.count;
-    info.nPage =
-        kIconSlots; // the system takes it off the end of the range: ScrollMaximum() is the last place
+    info.nPage = kIconSlots; // the last place of the thumb is ScrollMaximum()
     info.nPos = strip_.scroll;
     if (NeedsScrollBar(strip_.count)) SetScrollInfo(hScrollIcons.Handle(), SB_CTL, &info, TRUE);
 }
@@ -230,6 +233,7 @@ void frmIcons::MoveFocus() {
 
 void frmIcons::imgIcon_Click(std::int16_t slot) { Show(ClickSlot(strip_, slot)); }
 
+// The first half of a double click has come as a click already; once more changes nothing.
 void frmIcons::imgIcon_DblClick(std::int16_t slot) {
     imgIcon_Click(slot);
     cmdOK_Click();

@@ -18,7 +18,7 @@
 
 // A push button that leaves characters and the keys that choose an icon to its form, which gets them as its
 // own.
-class ArrowButton : public win::Button {
+class PickerButton : public win::Button {
   protected:
     void Made() override { InterceptMessages(); }
     bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
@@ -36,12 +36,12 @@ class frmIcons : public win::Form {
     const std::wstring& Result() const { return result_; }
 
     // Controls.
-    win::Label picIcons;                         // the strip
-    std::array<ArrowButton, kIconSlots> imgIcon; // its slots; the caption is the icon's name
-    win::Control hScrollIcons;                   // its position is IconStrip::scroll
+    win::Label picIcons;                          // the strip
+    std::array<PickerButton, kIconSlots> imgIcon; // its slots; the caption is the icon's name
+    win::Control hScrollIcons;                    // its position is IconStrip::scroll
     win::Label lblnIcons;
     win::Label lblIconName;
-    ArrowButton cmdOK, cmdCancel;
+    PickerButton cmdOK, cmdCancel;
 
     void UpdateIcons();
     void imgIcon_Click(std::int16_t slot); // from 1

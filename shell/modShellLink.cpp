@@ -4,6 +4,7 @@
 #include "app/Files.h"
 #include "app/Numbers.h"
 #include "app/Settings.h"
+#include "app/Suite.h"
 #include "app/modLocations.h"
 #include "shell/cShellLink.h"
 #include "wizard/frmWizard.h"
@@ -31,11 +32,12 @@ constexpr Place kPlaces[] = {
     {4, kApplicationDataFolder, L"\\Microsoft\\Internet Explorer\\Quick Launch\\"},
 };
 
-constexpr Shortcut kFileManager  = {L"Varnel DNC File Manager.lnk",  L"VFileMgr.EXE"};
-constexpr Shortcut kRemoteServer = {L"Varnel DNC Remote Server.lnk", L"VRemote.EXE"};
+constexpr Shortcut kFileManager  = {L"Varnel DNC File Manager.lnk",  suite::kFileManagerTarget};
+constexpr Shortcut kRemoteServer = {L"Varnel DNC Remote Server.lnk", suite::kRemoteServerTarget};
 // clang-format on
 
-// Silent, without confirmation, and without a word about a link that another program holds open.
+// Silent, without confirmation, and without a word about a link that is not there or that another program
+// holds open.
 constexpr std::int16_t kQuietDelete = FOF_SILENT | FOF_NOCONFIRMATION | FOF_NOERRORUI;
 
 cShellLink& Links() {
@@ -46,10 +48,10 @@ cShellLink& Links() {
 void Update(HWND owner, const std::wstring& folder, bool create, const Shortcut& shortcut) {
     const std::wstring link = folder + shortcut.file;
     if (create) {
-        if (!FolderExists(folder)) SHCreateDirectoryExW(nullptr, folder.c_str(), nullptr);
+        if (!FolderExists(folder)) CreateDirectoryW(folder.c_str(), nullptr);
         Links().CreateShellLink(link, locations.ProgramFolder + shortcut.target, locations.ProgramFolder, L"",
                                 L"", 0, SW_SHOW);
-    } else if (FileExists(link)) {
+    } else {
         DeleteAnyFile(link + std::wstring(2, L'\0'), kQuietDelete, owner);
     }
 }
@@ -63,11 +65,15 @@ void ShowAppIcons(frmWizard& form, std::int16_t mode) {
     }
 }
 
+// The settings are read anew each time: another program of the suite may have installed the Remote Server
+// while the wizard was open.
 void UpdateShortcuts(HWND owner, std::int16_t choice) {
     const bool remoteServer = RemoteServerInstalled();
-    for (const Place& place : kPlaces)
-        if (const auto folder = Links().GetSystemFolderPath(owner, place.shellFolder))
-            UpdateShortcutsIn(owner, *folder + place.below, (choice & place.bit) != 0, remoteServer);
+    for (const Place& place : kPlaces) {
+        std::wstring folder;
+        if (!Links().GetSystemFolderPath(owner, place.shellFolder, folder) || folder.empty()) continue;
+        UpdateShortcutsIn(owner, folder + place.below, (choice & place.bit) != 0, remoteServer);
+    }
 }
 
 void UpdateShortcutsIn(HWND owner, const std::wstring& folder, bool create, bool remoteServer) {
@@ -76,7 +82,7 @@ void UpdateShortcutsIn(HWND owner, const std::wstring& folder, bool create, bool
 }
 
 bool RemoteServerInstalled() {
-    std::wstring options = TrimBlanks(ReadIniString(L"Install", L"Options", L""));
-    if (options.empty()) options = ReadIniString(L"Options", L"Install", L"");
+    std::wstring options = TrimBlanks(ReadIniString(suite::kInstall, suite::kOptions, L""));
+    if (options.empty()) options = ReadIniString(suite::kOptions, suite::kInstall, L"");
     return (NumericValue(options) & 1) != 0;
 }

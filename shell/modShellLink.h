@@ -22,8 +22,8 @@ void ShowAppIcons(frmWizard& form, std::int16_t mode);
 // that program is installed, and is left alone where it is not.
 void UpdateShortcuts(HWND owner, std::int16_t choice);
 
-// The same for one place. `folder` ends in a backslash and is made, with its parents, when a shortcut is to
-// go there.
+// The same for one place. `folder` ends in a backslash and is made, but not its parents, when a shortcut is
+// to go there.
 void UpdateShortcutsIn(HWND owner, const std::wstring& folder, bool create, bool remoteServer);
 
 // The lowest bit of the number under "Options" in section "Install" of the settings file or, when that is

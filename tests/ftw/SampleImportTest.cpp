@@ -21,3 +21,11 @@ TEST(SampleImport, Question) {
     EXPECT_EQ(ImportQuestion(1), L"Import 1 sample configuration file?\r\nAre you sure?");
     EXPECT_EQ(ImportQuestion(12), L"Import 12 sample configuration files?\r\nAre you sure?");
 }
+
+TEST(SampleImport, NamesWhatIsLeftOut) {
+    EXPECT_EQ(LeftOutMessage({L"Mill"}),
+              L"This sample was not imported, because its path is too long:\r\n\r\nMill");
+    const std::wstring many = LeftOutMessage(Texts(12, L"Mill"));
+    EXPECT_TRUE(many.starts_with(L"These samples") && many.ends_with(L"Mill\r\nMill\r\nand 2 more"))
+        << many.size();
+}

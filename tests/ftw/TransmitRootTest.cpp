@@ -25,6 +25,7 @@ TEST(TransmitRoot, StoredValueOfWhatIsTyped) {
         EXPECT_EQ(TransmitRootValue({std::wstring(row.typed), row.floppy}), row.value);
         EXPECT_EQ(LocationPath(row.typed), row.path);
         EXPECT_EQ(IsFolderList(row.path), row.path.find(L';') != row.path.npos);
+        EXPECT_EQ(WithoutQuotes(std::wstring(row.typed)), row.typed);
     }
 }
 
@@ -41,6 +42,9 @@ TEST(TransmitRoot, KeptValueIsShownAndStoredAsItWas) {
         {L"D:\\Cnc;E:\\Prog;A:;",  L"D:\\Cnc;E:\\Prog",    true },
         {L"A:;",                   L"A:",                  false}, // the one folder there is
         {L"D:\\DATA:;",            L"D:\\DATA:",           false}, // no folder of its own
+        {L"D:\\Cnc;;",            L"D:\\Cnc;;",           false},
+        {L";",                     L";",                   false},
+        {L";A:;",                  L";",                   true },
         {L"Computer;A:;",          L"Computer",            true },
     };
     // clang-format on
@@ -53,4 +57,26 @@ TEST(TransmitRoot, KeptValueIsShownAndStoredAsItWas) {
     }
     EXPECT_EQ(ReadTransmitRoot(L"").folders, L"");
     EXPECT_EQ(ReadTransmitRoot(L"D:\\Cnc").folders, L"D:\\Cnc"); // written by hand
+}
+
+TEST(TransmitRoot, QuotationMarksAroundAPathAreDropped) {
+    const std::pair<const wchar_t*, const wchar_t*> rows[] = {
+        {L"\"D:\\My Cnc\"", L"D:\\My Cnc"},
+        {L" \"D:\\A\" ; E:\\ B;\"F:\\C\";", L"D:\\A; E:\\ B;F:\\C;"},
+        {L"\"D:\\A;E:\\B\"", L"D:\\A;E:\\B"}, // around the whole list
+        {L"\"D:\\A", L"\"D:\\A"},
+        {L"D:\\\"A\"", L"D:\\\"A\""},
+        {L"\"A\" \"B\"", L"\"A\" \"B\""},
+        {L"\"\"", L"\"\""},
+    };
+    for (const auto& [typed, folders] : rows)
+        EXPECT_EQ(WithoutQuotes(typed), folders);
+}
+
+TEST(TransmitRoot, ShownIsTheBeginning) {
+    const std::wstring most(2000, L'x');
+    EXPECT_EQ(ShownLocation(most), most);
+    EXPECT_EQ(ShownLocation(most + L"y"), most + L"\x2026");
+    const std::wstring half = most.substr(1) + L"\xD83D";
+    EXPECT_EQ(ShownLocation(half + L"\xDE00"), most.substr(1) + L"\x2026");
 }

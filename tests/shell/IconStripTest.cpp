@@ -101,8 +101,11 @@ TEST(IconStrip, FindsANameByItsLetters) {
             << testing::PrintToString(row.letters) << " from " << row.selected;
     EXPECT_EQ(FindByLetters({}, 1, L"l", AsciiUpper), std::nullopt);
     TypedLetters typed;
-    const std::pair<std::uint32_t, const wchar_t*> times[] = {
-        {0xFFFFFF00, L"a"}, {0x10, L"aa"}, {0x10 + 1000, L"aaa"}, {0x10 + 2001, L"a"}}; // the clock runs over
+    const std::pair<std::uint32_t, const wchar_t*> times[] = {{0xFFFFFF00, L"a"},
+                                                              {0xFFFFFFF0, L"aa"},
+                                                              {0x10, L"aaa"},
+                                                              {0x10 + 1000, L"aaaa"},
+                                                              {0x10 + 2001, L"a"}}; // the clock runs over
     for (const auto& [time, letters] : times) {
         typed.Add(L'a', time);
         EXPECT_EQ(typed.letters, letters) << time;
