@@ -21,6 +21,20 @@ class FormUnderTest {
     frmWizard form;
 };
 
+// Calls `act` with each element of each group of the pool; the combo box and the frame are in no group.
+template <class Act> void ForEachInput(InputPool& pool, const Act& act) {
+    const auto each = [&act](auto& group) {
+        for (auto& element : group)
+            act(element);
+    };
+    each(pool.optUserInput);
+    each(pool.chkUserInput);
+    each(pool.txtUserInput);
+    each(pool.lstUserInput);
+    each(pool.lblUserPrompt);
+    each(pool.lblHyperlink);
+}
+
 // What a screen reader is told.
 struct Spoken {
     std::wstring name;
