@@ -1,5 +1,5 @@
 #pragma once
-#include "tests/support/Windows.h"
+#include "tools/driver/Windows.h"
 #include "wizard/frmWizard.h"
 
 #include <vector>
