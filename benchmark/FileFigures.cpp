@@ -1,7 +1,6 @@
 #include "app/Files.h"
 #include "app/StartUp.h"
 #include "app/modLocations.h"
-#include "benchmark/Clock.h"
 #include "benchmark/Figures.h"
 #include "benchmark/Table.h"
 #include "ftw/FtwPages.h"
@@ -9,6 +8,7 @@
 #include "ndw/NdwAnswers.h"
 #include "ndw/modDcp.h"
 #include "shell/frmIcons.h"
+#include "tools/driver/Clock.h"
 #include "wizard/frmWizard.h"
 
 #include <windows.h>

@@ -1,11 +1,11 @@
 #include "app/StartUp.h"
 #include "app/modLocations.h"
 #include "benchmark/BareWindow.h"
-#include "benchmark/Clock.h"
 #include "benchmark/Figures.h"
 #include "benchmark/SheetWizard.h"
 #include "benchmark/Table.h"
 #include "ndw/NdwPages.h"
+#include "tools/driver/Clock.h"
 #include "wizard/frmWizard.h"
 
 #include <commctrl.h>

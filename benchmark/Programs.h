@@ -2,7 +2,7 @@
 
 // Starting a program as a user would and finding out when it can be used.
 
-#include <windows.h>
+#include "tools/driver/RunningProgram.h"
 
 #include <string>
 
@@ -17,19 +17,14 @@ struct Program {
 class Running {
   public:
     // Starts the program; returns when its window and its control are there, it answers a message and
-    // nothing is left to be painted. Throws std::runtime_error after 20 s.
+    // nothing is left to be painted. Throws std::runtime_error when that does not come.
     explicit Running(const Program& program);
-    Running(const Running&) = delete;
-    Running& operator=(const Running&) = delete;
-    ~Running(); // ends the process, whatever it does
 
     double StartTime() const { return startTime_; } // milliseconds
     HWND Window() const { return window_; }
 
   private:
-    HWND FindWindow(const Program& program) const;
-
-    PROCESS_INFORMATION process_{};
+    double startTime_; // before the process is made: when it was begun
+    RunningProgram process_;
     HWND window_ = nullptr;
-    double startTime_ = 0;
 };

@@ -1,8 +1,8 @@
 #include "app/SingleInstance.h"
 #include "app/StartUp.h"
-#include "benchmark/Clock.h"
 #include "benchmark/Figures.h"
 #include "benchmark/Table.h"
+#include "tools/driver/Clock.h"
 
 #include <windows.h>
 

@@ -1,8 +1,8 @@
-#include "benchmark/Clock.h"
 #include "benchmark/Figures.h"
-#include "benchmark/LinuxProcess.h"
 #include "benchmark/Programs.h"
 #include "benchmark/Table.h"
+#include "tools/driver/Clock.h"
+#include "tools/driver/LinuxProcess.h"
 
 #include <vector>
 

@@ -1,6 +1,9 @@
 // Linked in front of the wizard's own objects: replaces the entries of the program's import table by calls
 // that can fail. The environment says which: VWIZARD_FAIL is the number of the call, from 1, with a "+"
-// behind it when every later one is to fail too. At the end the calls are listed in VWIZARD_FAIL_LOG.
+// behind it when every later one is to fail too. At the end the calls are listed in VWIZARD_FAIL_LOG, behind
+// the names of all functions that can fail, each with a "?" in front.
+#include "win/Handles.h"
+
 #include <windows.h>
 
 #include <objbase.h>
@@ -63,48 +66,47 @@ constexpr std::uintptr_t kNoHandle = static_cast<std::uintptr_t>(-1);
 constexpr std::uintptr_t kNoAttributes = INVALID_FILE_ATTRIBUTES;
 constexpr std::uintptr_t kFailed = static_cast<std::uintptr_t>(E_FAIL);
 
+// A full disk is an error, or takes the half and calls it a success.
+constexpr char kHalfWrite[] = "WriteFile";
+void* originalWrite = nullptr;
+BOOL WINAPI WriteHalf(HANDLE file, const void* bytes, DWORD size, DWORD* written, OVERLAPPED* overlapped) {
+    if (FailsNow(kHalfWrite)) {
+        SetLastError(ERROR_DISK_FULL);
+        return FALSE;
+    }
+    const auto write = reinterpret_cast<decltype(&WriteFile)>(originalWrite);
+    return write(file, bytes, FailsNow("WriteFile, a half") ? size / 2 : size, written, overlapped);
+}
+
 // clang-format off
 const Row kRows[] = {
     FAILS(CreateFileW,                kNoHandle,           ERROR_ACCESS_DENIED),
     FAILS(ReadFile,                   FALSE,               ERROR_READ_FAULT),
-    FAILS(WriteFile,                  FALSE,               ERROR_DISK_FULL),
     FAILS(DeleteFileW,                FALSE,               ERROR_SHARING_VIOLATION),
-    FAILS(MoveFileExW,                FALSE,               ERROR_ACCESS_DENIED),
-    FAILS(CopyFileW,                  FALSE,               ERROR_DISK_FULL),
     FAILS(CreateDirectoryW,           FALSE,               ERROR_ACCESS_DENIED),
     FAILS(SetCurrentDirectoryW,       FALSE,               ERROR_PATH_NOT_FOUND),
     FAILS(GetFileAttributesW,         kNoAttributes,       ERROR_ACCESS_DENIED),
     FAILS(GetFileAttributesExW,       FALSE,               ERROR_ACCESS_DENIED),
-    FAILS(SetFileAttributesW,         FALSE,               ERROR_ACCESS_DENIED),
     FAILS(GetFileSizeEx,              FALSE,               ERROR_INVALID_HANDLE),
-    FAILS(GetFileSize,                kNoAttributes,       ERROR_INVALID_HANDLE),
     FAILS(GetFileType,                FILE_TYPE_UNKNOWN,   ERROR_INVALID_HANDLE),
-    FAILS(SetFilePointerEx,           FALSE,               ERROR_INVALID_HANDLE),
-    FAILS(SetEndOfFile,               FALSE,               ERROR_DISK_FULL),
-    FAILS(FlushFileBuffers,           FALSE,               ERROR_DISK_FULL),
-    FAILS(GetDiskFreeSpaceExW,        FALSE,               ERROR_ACCESS_DENIED),
-    FAILS(GetFullPathNameW,           0,                   ERROR_INVALID_NAME),
     FAILS(FindFirstFileW,             kNoHandle,           ERROR_ACCESS_DENIED),
     FAILS(FindNextFileW,              FALSE,               ERROR_NO_MORE_FILES),
     FAILS(GetPrivateProfileStringA,   0,                   ERROR_FILE_NOT_FOUND),
-    FAILS(GetPrivateProfileStringW,   0,                   ERROR_FILE_NOT_FOUND),
     FAILS(WritePrivateProfileStringA, FALSE,               ERROR_ACCESS_DENIED),
-    FAILS(WritePrivateProfileStringW, FALSE,               ERROR_ACCESS_DENIED),
     FAILS(RegOpenKeyExA,              ERROR_ACCESS_DENIED, 0),
     FAILS(RegOpenKeyExW,              ERROR_ACCESS_DENIED, 0),
     FAILS(RegQueryValueExA,           ERROR_MORE_DATA,     0),
-    FAILS(RegQueryValueExW,           ERROR_MORE_DATA,     0),
     FAILS(RegEnumValueW,              ERROR_ACCESS_DENIED, 0),
     FAILS(RegDeleteValueA,            ERROR_ACCESS_DENIED, 0),
-    FAILS(RegDeleteValueW,            ERROR_ACCESS_DENIED, 0),
     FAILS(SHGetSpecialFolderLocation, kFailed,             0),
     FAILS(SHGetPathFromIDListW,       FALSE,               0),
     FAILS(SHFileOperationW,           ERROR_ACCESS_DENIED, 0),
     FAILS(ShellExecuteExW,            FALSE,               ERROR_ACCESS_DENIED),
     FAILS(CreateProcessW,             FALSE,               ERROR_FILE_NOT_FOUND),
     FAILS(OleInitialize,              kFailed,             0),
-    FAILS(CoInitializeEx,             kFailed,             0),
     FAILS(CoCreateInstance,           kFailed,             0),
+    FAILS(LoadImageW,                 0,                   ERROR_RESOURCE_NAME_NOT_FOUND),
+    {kHalfWrite, reinterpret_cast<void*>(&WriteHalf), &originalWrite},
 };
 // clang-format on
 
@@ -178,12 +180,13 @@ class Injector {
         if (!path) return;
         failing = 0;
         std::string list;
+        for (const Row& row : kRows)
+            list += "?" + std::string(row.name) + "\n";
         for (const char* name : calls)
             list += std::string(name) + "\n";
-        const HANDLE file = CreateFileA(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+        const win::UniqueFile file(CreateFileA(path, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
         DWORD written = 0;
-        WriteFile(file, list.data(), static_cast<DWORD>(list.size()), &written, nullptr);
-        CloseHandle(file);
+        WriteFile(file.Get(), list.data(), static_cast<DWORD>(list.size()), &written, nullptr);
     }
 };
 

@@ -1,10 +1,10 @@
 // Long use: tours of all pages, message windows, icon pickers, imports. What the wizard holds is counted
 // from outside; after warming up none of it grows.
-#include "benchmark/LinuxProcess.h"
 #include "endurance/Scene.h"
 #include "endurance/Soak.h"
-#include "endurance/Walker.h"
 #include "tests/support/DemoSuite.h"
+#include "tools/driver/LinuxProcess.h"
+#include "tools/driver/Walker.h"
 
 #include <winternl.h>
 
@@ -82,7 +82,7 @@ class Patient {
         suite_.AddIcons();
         AddSamples(suite_, {L"Sample"});
         const std::wstring mark = L"leaks" + std::to_wstring(GetTickCount());
-        wizard_ = std::make_unique<WizardDriver>(suite_, (arguments + (L" " + mark)).c_str());
+        wizard_ = std::make_unique<WizardDriver>(suite_.CommandLine(arguments + (L" " + mark)));
         walker_ = std::make_unique<Walker>(*wizard_);
         walker_->WaitUntilReady();
         linux_ = LinuxProcess(Utf8(mark));

@@ -1,135 +1,213 @@
-// Random events on each wizard, from within it (MonkeyInside.cpp). From outside it is watched: it has to
-// answer within a second, to end properly, and to make no file but where it should.
-// A seed gives the same events again: ./soak --seed N monkey
-#include "endurance/Monkey.h"
-
-#include "benchmark/Clock.h"
+// Random clicks on each wizard. A page that comes back shows what it showed when it was left; every page has
+// a focus and one default button; no click ends the program other than properly.
+// A seed gives the same clicks again: ./soak --seed N monkey
+#include "endurance/BadText.h"
 #include "endurance/Scene.h"
 #include "endurance/Soak.h"
 #include "tests/support/DemoSuite.h"
-#include "tests/support/WizardDriver.h"
+#include "tools/driver/KnownMessages.h"
+#include "tools/driver/Walker.h"
 
 #include <algorithm>
-#include <stdexcept>
+#include <deque>
+#include <map>
+#include <optional>
+#include <random>
 
 namespace {
 
-constexpr DWORD kHang_ms = 1000, kOpening_ms = 20000, kWait_ms = 20;
+// Pages that begin anew each time, or after a Skip or a configuration that was made.
+constexpr std::wstring_view kForget[] = {L"Choose setup mode", L"Getting Started",
+                                         L"Import Sample CNC Configuration Files"};
+constexpr std::wstring_view kStoredByNext[] = {L"Specify CNC file location", L"Configuration Name"};
 
-class Zoo {
+constexpr UINT kSystemMessages[] = {WM_SETTINGCHANGE, WM_SYSCOLORCHANGE, WM_THEMECHANGED, WM_FONTCHANGE,
+                                    WM_DISPLAYCHANGE, WM_TIMECHANGE,     WM_CANCELMODE,   WM_DEVICECHANGE};
+constexpr const wchar_t* kTexts[] = {L"", L"a", L"M1", L"x7", L"Tap", L"(N"};
+
+bool IsLink(HWND button) { return (GetWindowLongW(button, GWL_STYLE) & BS_TYPEMASK) == BS_OWNERDRAW; }
+
+bool IsPush(HWND button) {
+    const LONG type = GetWindowLongW(button, GWL_STYLE) & BS_TYPEMASK;
+    return type == BS_PUSHBUTTON || type == BS_DEFPUSHBUTTON;
+}
+
+class Monkey {
   public:
-    Zoo(std::uint32_t seed, const wchar_t* arguments, MonkeyNotes& notes)
-        : arguments_(arguments), notes_(notes) {
-        notes_ = {};
-        notes_.seed = seed * 100000;
-        ReplaceProgram(suite_, L"SOAK_MONKEY");
+    Monkey(std::uint32_t seed, const wchar_t* arguments) : arguments_(arguments), random_(seed) {
         suite_.AddIcons();
         AddSamples(suite_, {L"One", L"Two", L"Three"});
-        tree_ = Tree(suite_.Folder());
     }
-    ~Zoo() { CloseHandle(turnEnds_); }
-    Zoo(const Zoo&) = delete;
-    Zoo& operator=(const Zoo&) = delete;
 
-    double Slowest() const { return slowest_; } // answer, in milliseconds
-
-    // What was wrong, "" when nothing was.
-    std::wstring Run(int events) {
+    // What was wrong, with the last clicks; "" when nothing was.
+    std::wstring Run(int clicks) {
         try {
-            while (notes_.events < events && *notes_.trouble == L'\0') {
-                RunOnce(events);
-                ++notes_.seed;
-            }
+            while (clicks_ < clicks)
+                RunOnce(clicks);
+            return {};
         } catch (const std::exception& error) {
-            return FromUtf8(error.what());
+            std::wstring story = FromUtf8(error.what()) + L"\n        on " + page_;
+            for (const std::wstring& act : acts_)
+                story += L"\n        " + act;
+            return story;
         }
-        return notes_.trouble;
     }
 
   private:
-    void RunOnce(int events) {
-        notes_.window = notes_.main = nullptr;
-        const WizardDriver wizard(suite_, arguments_, WizardDriver::Wait::No);
-        double last = Now();
-        for (int done = notes_.events; wizard.IsRunning() && notes_.events < events;) {
-            const bool opens = !notes_.window || Turn(wizard) == done;
-            if (!opens) last = Now();
-            if (Now() - last > kOpening_ms) Fail(std::wstring(L"nothing to do, waiting ") + notes_.waiting);
-            if (opens) Sleep(1);
-            done = notes_.events;
-        }
-        if (!wizard.IsRunning() && wizard.WaitForExit() != 0 && *notes_.trouble == L'\0')
-            Fail(L"the exit code " + std::to_wstring(wizard.WaitForExit()));
-        CheckFiles();
+    std::uint32_t Below(std::uint32_t count) { return static_cast<std::uint32_t>(random_()) % count; }
+    template <class Table> const auto& OneOf(const Table& table) {
+        return table[Below(static_cast<std::uint32_t>(std::size(table)))];
     }
 
-    // The number of events afterwards.
-    int Turn(const WizardDriver& wizard) {
-        const double begin = Now();
-        ResetEvent(turnEnds_); // by a wizard that has ended meanwhile
-        PostMessageW(notes_.window, kMonkeyTurn, 0, 0);
-        // Counted in waits, so that a machine that is busy elsewhere is not taken for a hang.
-        DWORD waited_ms = 0;
-        while (WaitForSingleObject(turnEnds_, kWait_ms) == WAIT_TIMEOUT && wizard.IsRunning())
-            if ((waited_ms += kWait_ms) >= LongestWait_ms()) Fail(L"no answer within a second");
-        slowest_ = std::max(slowest_, Now() - begin);
-        return notes_.events;
+    void Did(const std::wstring& what) {
+        ++clicks_;
+        acts_.push_back(what);
+        if (acts_.size() > 8) acts_.pop_front();
     }
 
-    // Before it opens and when it is about to end, it has nobody to answer; and the shell takes 0.3 s for its
-    // folder dialog, or more on a busy machine.
-    DWORD LongestWait_ms() const {
-        const bool shellOpens = notes_.browses && !IsWindowEnabled(notes_.main);
-        return IsWindow(notes_.main) && !shellOpens ? kHang_ms : kOpening_ms;
-    }
-
-    // Settings and configurations may change, and folders typed for CNC programs appear.
-    void CheckFiles() const {
-        for (std::wstring change : Changes(tree_, Tree(suite_.Folder()))) {
-            if (change.starts_with(L"-")) change.erase(0, 1);
-            if (change.starts_with(suite_.Settings()) || change.find(L".log|") != std::wstring::npos)
+    void RunOnce(int clicks) {
+        const WizardDriver wizard(suite_.CommandLine(arguments_), WizardDriver::Wait::No);
+        Walker walker(wizard);
+        remembered_.clear();
+        page_.clear();
+        while (clicks_ < clicks && walker.WaitUntilReady()) {
+            if (const HWND modal = walker.Modal()) {
+                AnswerAnyhow(walker, modal);
                 continue;
-            // Of the folder's own name at least this much was typed.
-            change.erase(std::min(change.find_last_not_of(L'\\') + 1, change.size()));
-            const std::wstring name = change.substr(change.rfind(L'\\') + 1);
-            const bool isFile = name.find(L'|') != std::wstring::npos;
-            if (isFile || std::wstring_view(notes_.locations).find(name) == std::wstring_view::npos)
-                Fail(L"changed elsewhere: " + change);
+            }
+            Look(walker, wizard);
+            Act(walker);
         }
+        if (!wizard.IsRunning() && wizard.WaitForExit() != 0)
+            Fail(L"the exit code " + std::to_wstring(wizard.WaitForExit()));
+    }
+
+    // Mostly not the end of the program.
+    void AnswerAnyhow(const Walker& walker, HWND modal) {
+        const HWND label = GetDlgItem(modal, 65535);
+        const std::wstring text = label ? TextOf(label) : L"";
+        const int answers[] = {IDOK, IDYES, IDNO, IDCANCEL};
+        const int wanted = text.starts_with(L"W A R N I N G") && Below(16) ? IDNO : OneOf(answers);
+        Did(L"answer " + std::to_wstring(wanted) + L" to " + text.substr(0, 30));
+        if (label && !IsKnownMessage(text)) Fail(L"an unexpected message: " + text);
+        walker.AnswerModal(modal, wanted);
+    }
+
+    // The inputs of a page as one text.
+    std::wstring Inputs(HWND main) const {
+        std::wstring inputs;
+        for (HWND control : ControlsOf(main)) {
+            const std::wstring kind = ClassOf(control);
+            if (kind == L"Edit") inputs += L" \"" + TextOf(control) + L"\"";
+            if (kind == L"ListBox" || kind == L"ComboBox")
+                inputs += L" " + std::to_wstring(static_cast<int>(
+                                     Ask(control, kind == L"ListBox" ? LB_GETCURSEL : CB_GETCURSEL)));
+            if (kind == L"Button" && !IsLink(control) && !IsPush(control))
+                inputs += Ask(control, BM_GETCHECK) ? L" x" : L" -";
+        }
+        return inputs;
+    }
+
+    void Look(const Walker& walker, const WizardDriver& wizard) {
+        const std::wstring heading = walker.Heading(), inputs = Inputs(walker.Main());
+        if (heading != page_) {
+            if (!isTyped_ && !page_.empty()) remembered_[page_] = shown_;
+            if (heading == L"Finished") remembered_.erase(L"Configuration Name");
+            const auto before = remembered_.find(heading);
+            const bool forgets = std::ranges::find(kForget, heading) != std::end(kForget);
+            if (before != remembered_.end() && !forgets && before->second != inputs)
+                Fail(heading + L" shows" + inputs + L" and showed" + before->second);
+            isTyped_ = false;
+        }
+        page_ = heading;
+        shown_ = inputs;
+        const HWND focus = wizard.Focus();
+        if (!focus || !IsChild(walker.Main(), focus)) Fail(L"nothing has the focus");
+        const auto buttons = ControlsOf(walker.Main(), L"Button");
+        if (std::ranges::count_if(buttons, [](HWND button) {
+                return (GetWindowLongW(button, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON;
+            }) != 1)
+            Fail(L"not one default button");
+    }
+
+    void Act(const Walker& walker) {
+        std::vector<HWND> inputs, buttons;
+        for (HWND control : ControlsOf(walker.Main())) {
+            const std::wstring kind = ClassOf(control);
+            const bool isButton = kind == L"Button" && IsWindowEnabled(control);
+            if (isButton && (IsPush(control) || IsLink(control))) {
+                // A link starts a program and Cancel asks a question: seldom, and never the other wizard.
+                const bool isDue =
+                    IsPush(control) ? TextOf(control) != L"Cancel" || Below(8) == 0
+                                    : Below(200) == 0 && TextOf(control).find(L"izard") == std::wstring::npos;
+                if (isDue) buttons.push_back(control);
+            } else if (isButton || kind == L"Edit" || kind == L"ListBox" || kind == L"ComboBox") {
+                inputs.push_back(control);
+            }
+        }
+        const std::uint32_t choice = Below(16);
+        if (choice == 0) return System(walker.Main());
+        if (choice < 7 && !inputs.empty()) return Use(walker, OneOf(inputs));
+        const HWND button = choice < 12 && walker.Next() ? walker.Next() : OneOf(buttons);
+        Did(L"click " + TextOf(button));
+        // What these pages show is stored only by Next, and only when it is taken.
+        if (button != walker.Next() && std::ranges::find(kStoredByNext, page_) != std::end(kStoredByNext))
+            isTyped_ = true, remembered_.erase(page_);
+        walker.Press(button);
+    }
+
+    void System(HWND main) {
+        const UINT message = OneOf(kSystemMessages);
+        Did(L"message " + std::to_wstring(message));
+        Ask(main, message);
+    }
+
+    void Use(const Walker& walker, HWND input) {
+        const std::wstring kind = ClassOf(input);
+        if (kind == L"Button") {
+            Did(L"click " + TextOf(input));
+            return walker.Press(input);
+        }
+        if (kind == L"Edit") return Type(input);
+        const bool combo = kind == L"ComboBox";
+        const auto count = static_cast<std::uint32_t>(Ask(input, combo ? CB_GETCOUNT : LB_GETCOUNT));
+        const std::uint32_t item = Below(std::max(count, 1U));
+        Did(L"choose " + std::to_wstring(item));
+        Ask(input, combo ? CB_SETCURSEL : LB_SETCURSEL, item);
+        if (!combo) Ask(input, LB_SETSEL, Below(2), static_cast<LPARAM>(item));
+        Notify(input, CBN_SELCHANGE);
+    }
+
+    // One text in four may be one that is refused: what the page shows then is not what it stores.
+    void Type(HWND box) {
+        const bool bad = Below(4) == 0;
+        const std::wstring text = bad ? OneOf(BadTexts()).text : OneOf(kTexts);
+        isTyped_ = isTyped_ || bad;
+        if (bad) remembered_.erase(page_);
+        Did((bad ? L"paste " : L"type ") + text);
+        Ask(box, EM_SETSEL, 0, -1);
+        Ask(box, EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(text.c_str()));
     }
 
     const wchar_t* const arguments_;
-    MonkeyNotes& notes_;
-    const HANDLE turnEnds_ = CreateEventW(nullptr, FALSE, FALSE, kMonkeyTurnEnds);
     DemoSuite suite_;
-    std::set<std::wstring> tree_;
-    double slowest_ = 0;
+    std::mt19937 random_;
+    int clicks_ = 0;
+    std::deque<std::wstring> acts_;                   // the last ones
+    std::map<std::wstring, std::wstring> remembered_; // what each page showed when it was left
+    std::wstring page_, shown_;                       // at the last look
+    bool isTyped_ = false;                            // what the page shows need not be what it stores
 };
 
 } // namespace
 
 void CheckMonkey(Tally& tally) {
-    const int seeds = tally.Of(10, 1);
-    const int events = tally.Of(20000, 500);
-    MonkeyNotes& notes = *OpenMonkeyNotes();
-    int created = 0;
-    double slowest = 0;
+    const int seeds = tally.Of(10, 1), clicks = tally.Of(5000, 400);
     for (int i = 0; i < seeds; ++i)
         for (const wchar_t* arguments : {L"", L"/NDW"}) {
             const std::uint32_t seed = tally.Seed() + static_cast<std::uint32_t>(i);
-            Zoo zoo(seed, arguments, notes);
-            std::wstring story = zoo.Run(events);
-            slowest = std::max(slowest, zoo.Slowest());
-            created += notes.created;
-            const bool well = story.empty();
-            std::wstring place = L"seed " + std::to_wstring(seed);
-            place.append(L" ").append(arguments).append(L" event ").append(std::to_wstring(notes.events));
-            story.insert(0, place.append(L" "));
-            for (int act = std::max(notes.events - 8, 0); act < notes.events; ++act)
-                story.append(L"\n        ").append(notes.acts[act % 8]);
-            tally.Expect(well, story);
+            const std::wstring story = Monkey(seed, arguments).Run(clicks);
+            tally.Expect(story.empty(), L"seed " + std::to_wstring(seed) + L" " + arguments + L": " + story);
         }
-    tally.Note(std::to_string(seeds) + " seeds x " + std::to_string(events) + " events on each wizard, " +
-               std::to_string(created) + " configurations made, slowest answer " +
-               std::to_string(static_cast<int>(slowest)) + " ms");
+    tally.Note(std::to_string(seeds) + " seeds x " + std::to_string(clicks) + " clicks on each wizard");
 }

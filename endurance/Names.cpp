@@ -4,7 +4,7 @@
 #include "endurance/BadText.h"
 #include "endurance/Scene.h"
 #include "endurance/Soak.h"
-#include "endurance/Walker.h"
+#include "tools/driver/Walker.h"
 
 #include "tests/support/DemoSuite.h"
 
@@ -62,7 +62,7 @@ void CheckNames(Tally& tally) {
     for (const wchar_t* name : kTakenNames)
         WriteFileBytes(suite.Settings() + name + L".DCP", "taken");
     const std::size_t longest = kLongestPath - suite.Settings().size() - 4;
-    const WizardDriver wizard(suite, L"/NDW");
+    const WizardDriver wizard(suite.CommandLine(L"/NDW"));
     Walker walker(wizard);
     walker.stopAt = L"Configuration Name";
     tally.Expect(walker.Walk().trouble.empty(), L"the way to the name page");

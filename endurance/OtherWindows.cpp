@@ -1,7 +1,6 @@
-// Windows of other programs, and of a second copy: a start is never held up by a window that does not
-// answer, and there are never two wizards of one mode.
+// Windows of other programs: a start is never held up by a window that does not answer.
 #include "endurance/Soak.h"
-#include "endurance/Walker.h"
+#include "tools/driver/Walker.h"
 
 #include "tests/support/DemoSuite.h"
 
@@ -66,7 +65,7 @@ ULONGLONG StartTime(Tally& tally, const DemoSuite& suite, const wchar_t* what) {
     ULONGLONG best = ~0ULL;
     for (int i = 0; i < 3; ++i) {
         const ULONGLONG begin = GetTickCount64();
-        const WizardDriver wizard(suite, L"", WizardDriver::Wait::No);
+        const WizardDriver wizard(suite.CommandLine(L""), WizardDriver::Wait::No);
         Walker walker(wizard);
         walker.WaitUntilReady();
         best = std::min(best, GetTickCount64() - begin);
@@ -107,22 +106,4 @@ void CheckWindows(Tally& tally) {
         tally.Expect(time <= alone + 1000, std::wstring(row.what) + L": " + std::to_wstring(time) + L" ms");
     }
     tally.Note("6 kinds of foreign windows, alone a start takes " + std::to_string(alone) + " ms");
-}
-
-void CheckTwoCopies(Tally& tally) {
-    const DemoSuite suite;
-    const int count = tally.Of(100, 3);
-    for (int i = 0; i < count; ++i) {
-        const wchar_t* arguments = i % 2 ? L"/NDW" : L"";
-        const WizardDriver first(suite, arguments, WizardDriver::Wait::No);
-        const WizardDriver second(suite, arguments, WizardDriver::Wait::No);
-        // Each is settled when it has a page or has ended.
-        Walker walkers[] = {Walker(first), Walker(second)};
-        int pages = 0;
-        for (Walker& walker : walkers)
-            pages += walker.WaitUntilReady();
-        tally.Expect(pages == 1 && first.IsRunning() != second.IsRunning(),
-                     std::to_wstring(pages) + L" wizards of " + arguments);
-    }
-    tally.Note(std::to_string(count) + " pairs of starts");
 }

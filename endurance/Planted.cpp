@@ -2,7 +2,7 @@
 // and starts the suite's own programs, whatever the folders are called.
 #include "endurance/Scene.h"
 #include "endurance/Soak.h"
-#include "endurance/Walker.h"
+#include "tools/driver/Walker.h"
 
 #include "tests/support/DemoSuite.h"
 
@@ -67,7 +67,7 @@ BOOL CALLBACK EndOther(HWND window, LPARAM own) {
 }
 
 void Run(Tally& tally, const DemoSuite& suite, const wchar_t* arguments) {
-    const WizardDriver wizard(suite, arguments);
+    const WizardDriver wizard(suite.CommandLine(arguments));
     Walker walker(wizard);
     walker.onPage = [&](const std::wstring& heading) {
         FollowLinks(walker);
@@ -75,7 +75,7 @@ void Run(Tally& tally, const DemoSuite& suite, const wchar_t* arguments) {
     };
     const Journey journey = walker.Walk();
     tally.Expect(journey.trouble.empty() && journey.Passed(L"Finished"),
-                 std::wstring(arguments) + L": " + journey.trouble);
+                 std::wstring(arguments) + L": " + journey.Story());
     EnumWindows(EndOther, static_cast<LPARAM>(wizard.ProcessId()));
 }
 
@@ -116,9 +116,7 @@ void CheckPlanted(Tally& tally) {
             tally.Expect(!Exists(program + std::wstring(L".log")), std::wstring(program) + L" was started");
             DeleteFileW(program);
         }
-        std::size_t starts = 0; // the last ones may still be coming up
-        for (int i = 0; i < 50 && (starts = suite.StartCount()) < kStarts; ++i)
-            Sleep(100);
+        const std::size_t starts = suite.StartCount();
         tally.Expect(starts >= kStarts, L"only " + std::to_wstring(starts) + L" programs were started");
         tally.Note(std::to_string(std::size(kLibraries)) + " libraries in 2 folders, " +
                    std::to_string(starts) + " programs started");

@@ -7,8 +7,9 @@
 #include "tests/e2e/WalksFile.h"
 #include "tests/ndw/DcpByHand.h"
 #include "tests/support/DemoSuite.h"
-#include "tests/support/Windows.h"
-#include "tests/support/WizardDriver.h"
+#include "tools/driver/Keyboard.h"
+#include "tools/driver/Windows.h"
+#include "tools/driver/WizardDriver.h"
 #include "wizard/frmWizard.h"
 
 #include <gtest/gtest.h>
@@ -28,6 +29,7 @@ struct Walk {
     DemoSuite suite;
     std::optional<WizardDriver> wizard;
     win::UniqueKernelHandle lock;
+    bool isOpened = false;            // a link, which shows its program as it wants
     std::map<Text, std::size_t> seen; // starts of a program that the walk has spoken of
 
     const WizardDriver& On() const { return *wizard; }
@@ -68,11 +70,11 @@ void Select(HWND input, UINT message, WORD code, const Text& index) {
     Notify(input, code);
 }
 
-// Presses Next until the page is there.
-void GoTo(const Walk& walk, const Text& heading) {
+// Presses Next or Back until the page is there.
+void GoTo(const Walk& walk, const wchar_t* button, const Text& heading) {
     while (walk.On().Heading() != heading) {
         const Text before = walk.On().Heading();
-        walk.On().Press(L"&Next >");
+        walk.On().Press(button);
         walk.On().Until([&] { return walk.On().Heading() != before; }, L"a page after " + before);
         walk.On().WaitForPage(walk.On().Heading());
     }
@@ -102,46 +104,6 @@ Text Names(const Text& path) {
     return names;
 }
 
-void Send(WORD key, WORD scan, DWORD flags) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = key;
-    input.ki.wScan = scan;
-    input.ki.dwFlags = flags;
-    SendInput(1, &input, sizeof input);
-}
-
-const std::map<Text, WORD> kKeys = {
-    {L"tab", VK_TAB}, {L"enter", VK_RETURN}, {L"esc", VK_ESCAPE},  {L"left", VK_LEFT},   {L"right", VK_RIGHT},
-    {L"up", VK_UP},   {L"down", VK_DOWN},    {L"space", VK_SPACE}, {L"shift", VK_SHIFT}, {L"alt", VK_MENU}};
-
-// Keys of the keyboard, "alt+n" as well; the window that takes them has to be in front.
-void Key(const Text& keys) {
-    const std::size_t plus = keys.find(L'+') + 1;
-    const WORD modifier = plus ? kKeys.at(keys.substr(0, plus - 1)) : WORD{0};
-    const Text name = keys.substr(plus);
-    const WORD key = kKeys.count(name) ? kKeys.at(name) : static_cast<WORD>(towupper(name.at(0)));
-    if (modifier) Send(modifier, 0, 0);
-    Send(key, 0, 0);
-    Send(key, 0, KEYEVENTF_KEYUP);
-    if (modifier) Send(modifier, 0, KEYEVENTF_KEYUP);
-}
-
-void Write(const Text& text) {
-    for (const wchar_t c : text)
-        for (const DWORD up : {DWORD{0}, DWORD{KEYEVENTF_KEYUP}})
-            Send(0, c, KEYEVENTF_UNICODE | up);
-}
-
-// By the mouse, `from` pixels from the right end or, above 0, from the left.
-void Click(HWND control, int from = 9, UINT down = WM_LBUTTONDOWN) {
-    RECT area{};
-    GetClientRect(control, &area);
-    const LPARAM place = MAKELPARAM(from < 0 ? area.right + from : from, 9);
-    PostMessageW(control, down, MK_LBUTTON, place);
-    PostMessageW(control, WM_LBUTTONUP, 0, place);
-}
-
 // What has the focus: its text, or its class when it holds more than a caption.
 void ExpectFocus(const Walk& walk, const Text& wanted) {
     walk.On().Until(
@@ -157,10 +119,21 @@ void ExpectStart(Walk& walk, const Text& program, const Text& commandLine) {
     const Start start = walk.suite.WaitForStarts(program, ++walk.seen[program]).at(walk.seen[program] - 1);
     Expect(start.commandLine, commandLine);
     Expect(start.folder + L"\\", walk.suite.Folder());
+    EXPECT_TRUE(walk.isOpened || start.show == SW_SHOWNORMAL) << start.show;
+    walk.isOpened = false;
+}
+
+constexpr std::size_t kShowCommandAt = 0x3C; // of a shell link's file
+
+// As the system does: first it asks, then it tells.
+void LogOff(const Walk& walk) {
+    EXPECT_TRUE(Ask(walk.On().FormWindow(), WM_QUERYENDSESSION));
+    PostMessageW(walk.On().FormWindow(), WM_ENDSESSION, TRUE, 0);
 }
 
 // Links are opened as by a double click, so that the system says where they lead.
-void Open(const Text& link) {
+void Open(Walk& walk, const Text& link) {
+    walk.isOpened = true;
     SHELLEXECUTEINFOW info{};
     info.cbSize = sizeof info;
     info.fMask = SEE_MASK_FLAG_NO_UI;
@@ -188,7 +161,7 @@ void ExpectCorner(const Walk& walk) {
 }
 
 void StartAgain(Walk& walk, const Text& arguments) {
-    EXPECT_EQ(WizardDriver(walk.suite, arguments, WizardDriver::Wait::No).WaitForExit(), 0);
+    EXPECT_EQ(WizardDriver(walk.suite.CommandLine(arguments), WizardDriver::Wait::No).WaitForExit(), 0);
     const HWND first = walk.On().Window();
     walk.On().Until([&] { return !IsIconic(first) && GetForegroundWindow() == first; }, L"the first copy");
 }
@@ -230,6 +203,14 @@ void FollowLink(frmWizard& form, const Text& link) {
     form.lblHyperlink_Click(static_cast<std::int16_t>(link.back() - L'0'));
 }
 
+// `commandLine` is what the link starts, "" for nothing.
+void ExpectLink(Walk& walk, const Text& link, const Text& commandLine) {
+    InProcess(walk, link.front() == L'0' ? FtwBook() : NdwBook(), FollowLink, link);
+    if (commandLine.empty()) return;
+    const Text program = commandLine.substr(0, commandLine.find(L".exe") + 4);
+    ExpectStart(walk, program.substr(program.rfind(L'\\') + 1), commandLine);
+}
+
 void HandOver(frmWizard& form, const Text& flags) {
     startUp.ConfigLaunch = flags.back() & 1;
     form.ConfigWritten = flags.back() & 2;
@@ -253,9 +234,9 @@ const Verb kVerbs[] = {
     {L"spoil",     [](Walk& w, const Text& a, const Text& b) { w.lock = Spoil(a, kSpoilt.at(b)); }},
     {L"do",        [](Walk& w, const Text& a, const Text&) { w.Follow(a); }},
     // what the person does
-    {L"start",     [](Walk& w, const Text& a, const Text&) { w.wizard.emplace(w.suite, a); }},
-    {L"dialog",    [](Walk& w, const Text& a, const Text&) { w.suite.AddDialogs(); w.wizard.emplace(w.suite, a, WizardDriver::Wait::No, L"dialogs.exe"); }},
-    {L"begin",     [](Walk& w, const Text& a, const Text&) { w.wizard.emplace(w.suite, a, WizardDriver::Wait::No); }},
+    {L"start",     [](Walk& w, const Text& a, const Text&) { w.wizard.emplace(w.suite.CommandLine(a)); }},
+    {L"dialog",    [](Walk& w, const Text& a, const Text&) { w.suite.AddDialogs(); w.wizard.emplace(w.suite.CommandLine(a, L"dialogs.exe"), WizardDriver::Wait::No); }},
+    {L"begin",     [](Walk& w, const Text& a, const Text&) { w.wizard.emplace(w.suite.CommandLine(a), WizardDriver::Wait::No); }},
     {L"opens",     [](Walk& w, const Text&, const Text&) { w.wizard->WaitForOpening(); }},
     {L"again",     [](Walk& w, const Text& a, const Text&) { StartAgain(w, a); }},
     {L"minimise",  [](Walk& w, const Text&, const Text&) { ShowWindow(w.On().Window(), SW_MINIMIZE); }},
@@ -263,7 +244,8 @@ const Verb kVerbs[] = {
     {L"back",      [](Walk& w, const Text& a, const Text&) { Move(w, L"< Back", a); }},
     {L"skip",      [](Walk& w, const Text& a, const Text&) { Move(w, L"&Skip", a); }},
     {L"new",       [](Walk& w, const Text& a, const Text&) { Move(w, L"&New", a); }},
-    {L"to",        [](Walk& w, const Text& a, const Text&) { GoTo(w, a); }},
+    {L"to",        [](Walk& w, const Text& a, const Text&) { GoTo(w, L"&Next >", a); }},
+    {L"backto",    [](Walk& w, const Text& a, const Text&) { GoTo(w, L"< Back", a); }},
     {L"press",     [](Walk& w, const Text& a, const Text&) { w.On().Press(a); }},
     {L"on",        [](Walk& w, const Text& a, const Text&) { Check(w, a, true); }},
     {L"off",       [](Walk& w, const Text& a, const Text&) { Check(w, a, false); }},
@@ -273,14 +255,15 @@ const Verb kVerbs[] = {
     {L"mark",      [](Walk& w, const Text& a, const Text&) { Ask(w.On().Input(L"ListBox", L""), LB_SETSEL, TRUE, std::stoi(a)); }},
     {L"box",       [](Walk& w, const Text& a, const Text& b) { EXPECT_EQ(Utf8(w.On().AnswerBox(kButtons.at(a))).find(Utf8(b)), 0u) << Utf8(b); }},
     {L"at",        [](Walk& w, const Text& a, const Text&) { w.wizard->GoTo(a); }},
-    {L"key",       [](Walk&, const Text& a, const Text&) { Key(a); }},
-    {L"keys",      [](Walk&, const Text& a, const Text&) { Write(a); }},
+    {L"key",       [](Walk&, const Text& a, const Text&) { PressKey(a); }},
+    {L"keys",      [](Walk&, const Text& a, const Text&) { TypeKeys(a); }},
     {L"click",     [](Walk& w, const Text& a, const Text&) { Click(w.On().Button(a)); }},
     {L"double",    [](Walk& w, const Text& a, const Text&) { Click(w.On().Button(a)), Click(w.On().Button(a), 9, WM_LBUTTONDBLCLK); }},
     {L"scroll",    [](Walk& w, const Text&, const Text&) { Click(w.On().Input(L"ScrollBar", L""), -4); }},
     {L"tree",      [](Walk& w, const Text&, const Text&) { WaitForTree(w); }},
-    {L"open",      [](Walk&, const Text& a, const Text&) { Open(a); }},
+    {L"open",      [](Walk& w, const Text& a, const Text&) { Open(w, a); }},
     {L"close",     [](Walk& w, const Text&, const Text&) { PostMessageW(w.On().Window(), WM_CLOSE, 0, 0); }},
+    {L"log",       [](Walk& w, const Text&, const Text&) { LogOff(w); }},
     {L"exit",      [](Walk& w, const Text& a, const Text&) { Expect(std::to_wstring(w.On().WaitForExit()), a.empty() ? L"0" : a); }},
     {L"refused",   [](Walk& w, const Text& a, const Text& b) { ExpectRefusal(w, a, b); }},
     // what the page shows
@@ -303,10 +286,12 @@ const Verb kVerbs[] = {
     {L"files",     [](Walk&, const Text& a, const Text& b) { Expect(Names(a), b); }},
     {L"same",      [](Walk&, const Text& a, const Text& b) { EXPECT_EQ(FileBytes(a), FileBytes(b)); }},
     {L"holds",     [](Walk&, const Text& a, const Text& b) { EXPECT_NE(FileBytes(a).find(Utf8(b)), std::string::npos) << Utf8(b); }},
+    {L"lacks",     [](Walk&, const Text& a, const Text& b) { EXPECT_EQ(FileBytes(a).find(Utf8(b)), std::string::npos) << FileBytes(a); }},
+    {L"shown",     [](Walk&, const Text& a, const Text& b) { Expect(std::to_wstring(FileBytes(a).at(kShowCommandAt)), b); }},
     {L"ini",       [](Walk& w, const Text& a, const Text& b) { Expect(w.suite.Setting(a.c_str()), b); }},
     {L"dcp",       [](Walk& w, const Text& a, const Text& b) { ExpectBytes(FileBytes(w.suite.Settings() + a + L".DCP"), DcpByHand(Utf8(b)).Bytes()); }},
     {L"started",   [](Walk& w, const Text& a, const Text& b) { ExpectStart(w, a, b); }},
-    {L"follow",    [](Walk& w, const Text& a, const Text&) { InProcess(w, a.front() == L'0' ? FtwBook() : NdwBook(), FollowLink, a); }},
+    {L"link",      [](Walk& w, const Text& a, const Text& b) { ExpectLink(w, a, b); }},
     {L"hand",      [](Walk& w, const Text& a, const Text&) { InProcess(w, NdwBook(), HandOver, a); }},
     {L"starts",    [](Walk& w, const Text& a, const Text&) { Expect(std::to_wstring(w.suite.StartCount()), a); }},
 };

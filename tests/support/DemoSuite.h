@@ -29,11 +29,16 @@ class DemoSuite {
     std::vector<Start> Starts(const std::wstring& program) const;
     // Waits until `program` has been started `count` times.
     std::vector<Start> WaitForStarts(const std::wstring& program, std::size_t count = 1) const;
-    // How often any stand-in was started.
+    // How often any stand-in was started; waits until none that was started still runs.
     std::size_t StartCount() const;
 
     // A program of this suite as it stands in a command line: quoted, with its folder.
     std::wstring Quoted(std::wstring_view file) const { return L'"' + Folder() + std::wstring(file) + L'"'; }
+    // A command line that starts the wizard of this suite, or another of its programs.
+    std::wstring CommandLine(const std::wstring& arguments = L"",
+                             std::wstring_view program = L"VWizard.exe") const {
+        return Quoted(program) + L" " + arguments;
+    }
     // A key of the suite's settings file, "" when it is absent.
     std::wstring Setting(const wchar_t* key) const;
 

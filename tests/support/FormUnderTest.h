@@ -1,5 +1,5 @@
 #pragma once
-#include "tests/support/Windows.h"
+#include "tools/driver/Windows.h"
 #include "wizard/frmWizard.h"
 
 #include <vector>
@@ -20,6 +20,20 @@ class FormUnderTest {
     const PageBook& book;
     frmWizard form;
 };
+
+// Calls `act` with each element of each group of the pool; the combo box and the frame are in no group.
+template <class Act> void ForEachInput(InputPool& pool, const Act& act) {
+    const auto each = [&act](auto& group) {
+        for (auto& element : group)
+            act(element);
+    };
+    each(pool.optUserInput);
+    each(pool.chkUserInput);
+    each(pool.txtUserInput);
+    each(pool.lstUserInput);
+    each(pool.lblUserPrompt);
+    each(pool.lblHyperlink);
+}
 
 // What a screen reader is told.
 struct Spoken {

@@ -2,9 +2,9 @@
 
 #include "app/Files.h"
 #include "app/Settings.h"
+#include "tools/driver/Windows.h"
 
 #include <algorithm>
-#include <stdexcept>
 #include <thread>
 
 namespace {
@@ -14,12 +14,6 @@ constexpr int kBoxText = 65535; // the id of a message box's text
 std::wstring UniqueName() {
     static int count = 0;
     return L"Varnel test " + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(++count);
-}
-
-std::wstring TextOf(HWND window) {
-    std::wstring text(1024, L'\0');
-    text.resize(static_cast<std::size_t>(GetWindowTextW(window, text.data(), 1024)));
-    return text;
 }
 
 // Of this process: other tests may run beside this one.
@@ -58,8 +52,6 @@ win::UniqueKernelHandle Open(const std::wstring& path, DWORD access, DWORD share
 
 } // namespace
 
-void Fail(const std::wstring& what) { throw std::runtime_error(Utf8(what)); }
-
 std::vector<std::wstring> FileNames(const std::wstring& folder, const wchar_t* pattern) {
     std::vector<std::wstring> names;
     WIN32_FIND_DATAW data{};
@@ -92,22 +84,6 @@ void WriteFileBytes(const std::wstring& path, std::string_view bytes) {
 
 void Copy(const std::wstring& from, const std::wstring& to) {
     if (!CopyFileW(from.c_str(), to.c_str(), FALSE)) Fail(L"cannot copy " + from + L" to " + to);
-}
-
-std::string Utf8(std::wstring_view text) {
-    const int size = static_cast<int>(text.size());
-    std::string bytes(text.size() * 3, '\0');
-    bytes.resize(static_cast<std::size_t>(
-        WideCharToMultiByte(CP_UTF8, 0, text.data(), size, bytes.data(), size * 3, nullptr, nullptr)));
-    return bytes;
-}
-
-std::wstring FromUtf8(std::string_view bytes) {
-    const int size = static_cast<int>(bytes.size());
-    std::wstring text(bytes.size(), L'\0');
-    text.resize(
-        static_cast<std::size_t>(MultiByteToWideChar(CP_UTF8, 0, bytes.data(), size, text.data(), size)));
-    return text;
 }
 
 std::wstring TestFolder() {

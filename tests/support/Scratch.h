@@ -4,6 +4,7 @@
 // program opens. All of it is put back or removed at the end of the test.
 
 #include "app/modLocations.h"
+#include "tools/driver/Words.h"
 #include "win/Handles.h"
 
 #include <windows.h>
@@ -20,11 +21,7 @@ std::string FileBytes(const std::wstring& path);
 void WriteFileBytes(const std::wstring& path, std::string_view bytes);
 void Copy(const std::wstring& from, const std::wstring& to); // over what is there
 
-std::string Utf8(std::wstring_view text);
-std::wstring FromUtf8(std::string_view bytes);
 std::wstring TestFolder(); // of the test program, backslash at its end
-
-[[noreturn]] void Fail(const std::wstring& what); // throws std::runtime_error
 
 // Text values only; the key is made.
 void SetRegText(HKEY root, const std::wstring& key, const wchar_t* value, const std::wstring& text);

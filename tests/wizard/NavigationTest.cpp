@@ -1,9 +1,5 @@
-// What the walks cannot show of moving between pages: clicks that come too early, the end of the session,
-// what start-up leaves.
+// What the walks cannot show of moving between pages: clicks that come too early, the end of the session.
 
-#include "app/Registry.h"
-#include "app/Settings.h"
-#include "app/StartUp.h"
 #include "ftw/FtwPages.h"
 #include "tests/support/Scratch.h"
 #include "wizard/frmWizard.h"
@@ -63,19 +59,4 @@ TEST_F(Navigation, WhenClosingAsks) {
             EXPECT_EQ(message == WM_CLOSE ? QuitWasPosted() : result != 0, row.closes);
         }
     }
-}
-
-TEST_F(Navigation, LoadingTheForm) {
-    constexpr wchar_t kRunOnce[] = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\RunOnce";
-    SetRegText(HKEY_LOCAL_MACHINE, kRunOnce, L"Varnel_DNC_FTSW", L"x");
-    suite.Ini("[General]\r\nRxNameMode=7\r\nOther=2\r\n");
-    form.Form_Load();
-    EXPECT_EQ(win::WindowText(form.Hwnd()), L"Varnel test load");
-    EXPECT_EQ(ReadIniString(L"General", L"RxNameMode", L""), L"1");
-    EXPECT_EQ(ReadIniString(L"General", L"Other", L""), L"2");
-    EXPECT_EQ(ReadRegString(HKEY_LOCAL_MACHINE, kRunOnce, L"Varnel_DNC_FTSW", L"gone"), L"gone");
-    RECT place{};
-    GetWindowRect(form.Hwnd(), &place);
-    EXPECT_NEAR(place.left + place.right, GetSystemMetrics(SM_CXSCREEN), 1);
-    EXPECT_NEAR(place.top + place.bottom, GetSystemMetrics(SM_CYSCREEN), 1);
 }

@@ -1,31 +1,20 @@
 #pragma once
-#include <windows.h>
+#include "tools/driver/RunningProgram.h"
 
-#include <functional>
-#include <string>
-#include <vector>
-
-class DemoSuite;
-
-// Runs the real wizard of a suite as a person would: by its visible controls and its message boxes. Nothing
-// here sleeps blindly: each call waits until what it wants is there, and throws std::runtime_error, with
-// what the window shows, when it does not come. Controls are named by their caption ("&" included), inputs
-// by the prompt in front of them. A wizard still running at the end is ended.
-class WizardDriver {
+// Runs the real wizard as a person would: by its visible controls and its message boxes. Each call waits
+// until what it wants is there. Controls are named by their caption ("&" included), inputs by the prompt in
+// front of them.
+class WizardDriver : public RunningProgram {
   public:
     // Starts the wizard and waits for its window. With `Wait::No` it may end without one (a second copy).
     enum class Wait { Yes, No };
-    explicit WizardDriver(const DemoSuite& suite, const std::wstring& arguments = L"", Wait wait = Wait::Yes,
-                          const std::wstring& program = L"VWizard.exe");
+    explicit WizardDriver(const std::wstring& commandLine, Wait wait = Wait::Yes);
     void WaitForOpening(); // for a wizard started with `Wait::No` that opens its window after all
-    ~WizardDriver();
-    WizardDriver(const WizardDriver&) = delete;
-    WizardDriver& operator=(const WizardDriver&) = delete;
 
     HWND Window() const { return window_; }
+    HWND FormWindow() const { return FindWindowOf(L"VWizardForm", L""); } // whatever GoTo has chosen
     // What follows is about another window of the program, waited for.
     void GoTo(const std::wstring& title);
-    DWORD ProcessId() const { return process_.dwProcessId; }
 
     // Pages, known by their headings.
     std::wstring Heading() const;
@@ -47,17 +36,8 @@ class WizardDriver {
     std::wstring AnswerBox(int button) const;
 
     void Close() const; // as the close box does; answers the question with Yes and waits for the end
-    int WaitForExit() const;
-    bool IsRunning() const { return WaitForSingleObject(process_.hProcess, 0) == WAIT_TIMEOUT; }
-
-    // Waits until the condition holds; `wanted` names it when it never does.
-    void Until(const std::function<bool()>& condition, const std::wstring& wanted) const;
 
   private:
-    HWND FindWindowOf(const std::wstring& className, const std::wstring& title, int child) const;
-    std::wstring Describe() const;
-
-    PROCESS_INFORMATION process_{};
     HWND window_ = nullptr;
 };
 

@@ -1,4 +1,4 @@
-#include "benchmark/Clock.h"
+#include "tools/driver/Clock.h"
 
 #include <windows.h>
 

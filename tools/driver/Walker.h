@@ -4,8 +4,8 @@
 // Next and answers every question. It knows each message that the program has a reason to show; any other
 // one, a control that does not answer, a page that cannot be left and a bad exit code are its trouble.
 
-#include "tests/support/Windows.h"
-#include "tests/support/WizardDriver.h"
+#include "tools/driver/Windows.h"
+#include "tools/driver/WizardDriver.h"
 
 #include <functional>
 #include <string>
@@ -17,6 +17,7 @@ struct Journey {
     std::wstring trouble;               // "" when nothing was wrong
     bool Passed(std::wstring_view heading) const;
     bool Told(std::wstring_view beginning) const; // a message began like this
+    std::wstring Story() const;                   // all of it, for a failure
 };
 
 class Walker {
@@ -56,14 +57,14 @@ class Walker {
 
   private:
     HWND Visible(int id) const;
+    bool IsReady();
     void LeavePage(Journey& journey);
 
     const WizardDriver& wizard_;
     HWND main_ = nullptr;
     std::wstring lastPage_;
-    int visits_ = 0; // of the page shown, one after the other
+    int refusals_ = 0; // message boxes since that page was reached
 };
 
-// A whole run of a suite's wizard, from its start to its end.
-class DemoSuite;
-Journey WalkWhole(const DemoSuite& suite, const wchar_t* arguments);
+// A whole run of a wizard, from its start to its end.
+Journey WalkWhole(const std::wstring& commandLine);

@@ -1,11 +1,9 @@
-#include "tests/support/WizardDriver.h"
+#include "tools/driver/WizardDriver.h"
 
-#include "tests/support/DemoSuite.h"
-#include "tests/support/Windows.h"
+#include "tools/driver/Windows.h"
 
 namespace {
 
-constexpr DWORD kPatience = 20000; // milliseconds for one step
 constexpr int kHeadingId = 120;
 constexpr int kBoxText = 65535; // the id of a message box's text
 
@@ -16,46 +14,15 @@ void Notify(HWND control, WORD code) {
     Ask(GetParent(control), WM_COMMAND, MAKEWPARAM(id, code), reinterpret_cast<LPARAM>(control));
 }
 
-WizardDriver::WizardDriver(const DemoSuite& suite, const std::wstring& arguments, Wait wait,
-                           const std::wstring& program) {
-    STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
-    std::wstring line = suite.Quoted(program) + L" " + arguments;
-    if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                        &process_))
-        Fail(L"cannot start " + line);
+WizardDriver::WizardDriver(const std::wstring& commandLine, Wait wait) : RunningProgram(commandLine) {
     if (wait == Wait::Yes) WaitForOpening();
 }
 
 void WizardDriver::WaitForOpening() {
-    Until([this] { return (window_ = FindWindowOf(L"VWizardForm", L"", 0)) != nullptr; },
+    Until([this] { return (window_ = FindWindowOf(L"VWizardForm", L"")) != nullptr; },
           L"the wizard's window");
     Until([this] { return PageText() != L"Initializing..." && (Button(L"Cancel") || Button(L"&Close")); },
           L"the first page");
-}
-
-WizardDriver::~WizardDriver() {
-    if (IsRunning()) {
-        TerminateProcess(process_.hProcess, 99);
-        WaitForSingleObject(process_.hProcess, kPatience);
-    }
-    CloseHandle(process_.hThread);
-    CloseHandle(process_.hProcess);
-}
-
-void WizardDriver::Until(const std::function<bool()>& condition, const std::wstring& wanted) const {
-    for (const DWORD start = GetTickCount(); !condition(); Sleep(2))
-        if (GetTickCount() - start > kPatience) Fail(L"waited in vain for: " + wanted + L"\n" + Describe());
-}
-
-std::wstring WizardDriver::Describe() const {
-    std::wstring text = IsRunning() ? L"" : L"the wizard has ended\n";
-    for (HWND window : WindowsOf(ProcessId())) {
-        text += ClassOf(window) + L" \"" + TextOf(window) + L"\"\n";
-        for (HWND control : ControlsOf(window))
-            text += L"    " + ClassOf(control) + L" \"" + TextOf(control) + L"\"\n";
-    }
-    return text;
 }
 
 std::wstring WizardDriver::Heading() const { return TextOf(GetDlgItem(window_, kHeadingId)); }
@@ -84,9 +51,7 @@ void WizardDriver::Press(const std::wstring& caption) const {
 }
 
 HWND WizardDriver::Find(const std::wstring& className, const std::wstring& text) const {
-    for (HWND control : ControlsOf(window_))
-        if (ClassOf(control) == className && TextOf(control) == text) return control;
-    return nullptr;
+    return FindControl(window_, className.c_str(), text);
 }
 
 HWND WizardDriver::Input(const std::wstring& className, const std::wstring& prompt) const {
@@ -110,15 +75,6 @@ HWND WizardDriver::Focus() const {
     return info.hwndFocus;
 }
 
-// With a child of that id, unless it is 0; "" fits every class and every title.
-HWND WizardDriver::FindWindowOf(const std::wstring& className, const std::wstring& title, int child) const {
-    for (HWND window : WindowsOf(ProcessId()))
-        if ((className.empty() || ClassOf(window) == className) &&
-            (title.empty() || TextOf(window) == title) && (child == 0 || GetDlgItem(window, child)))
-            return window;
-    return nullptr;
-}
-
 std::wstring WizardDriver::AnswerBox(int button) const {
     HWND box = nullptr;
     Until([&] { return (box = FindWindowOf(L"#32770", L"", button)) != nullptr; },
@@ -132,7 +88,7 @@ std::wstring WizardDriver::AnswerBox(int button) const {
 
 void WizardDriver::GoTo(const std::wstring& title) {
     HWND found = nullptr;
-    Until([&] { return (found = FindWindowOf(L"", title, 0)) != nullptr; }, L"a window " + title);
+    Until([&] { return (found = FindWindowOf(L"", title)) != nullptr; }, L"a window " + title);
     window_ = found;
 }
 
@@ -144,11 +100,4 @@ void WizardDriver::Close() const {
         return !IsRunning();
     };
     Until(isOver, L"the end of the wizard");
-}
-
-int WizardDriver::WaitForExit() const {
-    Until([this] { return !IsRunning(); }, L"the end of the wizard");
-    DWORD code = 0;
-    GetExitCodeProcess(process_.hProcess, &code);
-    return static_cast<int>(code);
 }

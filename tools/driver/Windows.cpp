@@ -1,10 +1,10 @@
-#include "tests/support/Windows.h"
+#include "tools/driver/Windows.h"
 
-#include <stdexcept>
+#include "tools/driver/Words.h"
 
 namespace {
 
-constexpr UINT kAnswerTime_ms = 30000;
+constexpr UINT kAnswerTime_ms = 90000;
 
 BOOL CALLBACK Collect(HWND window, LPARAM data) {
     if (IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(data)->push_back(window);
@@ -31,6 +31,19 @@ std::vector<HWND> ControlsOf(HWND window, const wchar_t* className) {
     return controls;
 }
 
+HWND FindControl(HWND window, const wchar_t* className, const std::wstring& text) {
+    for (HWND control : ControlsOf(window, className))
+        if (text.empty() || TextOf(control) == text) return control;
+    return nullptr;
+}
+
+std::wstring Contents(HWND window) {
+    std::wstring contents;
+    for (HWND control : ControlsOf(window))
+        contents += L"    " + ClassOf(control) + L" \"" + TextOf(control) + L"\"\n";
+    return contents;
+}
+
 std::wstring ClassOf(HWND window) {
     wchar_t name[64] = L"";
     GetClassNameW(window, name, static_cast<int>(std::size(name)));
@@ -47,6 +60,7 @@ DWORD_PTR Ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     DWORD_PTR result = 0;
     if (!SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, kAnswerTime_ms, &result) &&
         IsWindow(window))
-        throw std::runtime_error("a window does not answer message " + std::to_string(message));
+        Fail(L"a window of class " + ClassOf(window) + L" does not answer message " +
+             std::to_wstring(message));
     return result;
 }

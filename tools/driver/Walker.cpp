@@ -1,17 +1,18 @@
-#include "endurance/Walker.h"
+#include "tools/driver/Walker.h"
 
-#include "endurance/KnownMessages.h"
-#include "tests/support/DemoSuite.h"
+#include "tools/driver/KnownMessages.h"
+#include "tools/driver/Words.h"
 
 #include <algorithm>
 #include <stdexcept>
 
 namespace {
 
-constexpr DWORD kPatience_ms = 60000, kSettle_ms = 300;
+// So long a click may seem to do nothing before it is made again.
+constexpr DWORD kClick_ms = 5000;
 constexpr wchar_t kFormClass[] = L"VWizardForm";
 constexpr int kNextId = 100, kBackId = 101, kHeadingId = 120, kBoxTextId = 65535;
-constexpr int kMostVisits = 4; // of one page without getting on
+constexpr int kMostRefusals = 6; // of one page
 
 bool IsGone(HWND window) { return !IsWindow(window) || !IsWindowVisible(window); }
 
@@ -24,6 +25,15 @@ bool Journey::Passed(std::wstring_view heading) const {
 bool Journey::Told(std::wstring_view beginning) const {
     return std::any_of(messages.begin(), messages.end(),
                        [&](const std::wstring& text) { return text.starts_with(beginning); });
+}
+
+std::wstring Journey::Story() const {
+    std::wstring story = trouble + L" pages:";
+    for (const std::wstring& page : pages)
+        story += L" | " + page;
+    for (const std::wstring& message : messages)
+        story += L" | told: " + message;
+    return story;
 }
 
 void Walker::Press(HWND button) const {
@@ -68,22 +78,18 @@ std::wstring Walker::AnswerModal(HWND modal, int wanted) const {
     return text;
 }
 
+// Cancel is shown when the first page is about to be; a page change is over when it answers.
+bool Walker::IsReady() {
+    if (!main_ || !IsWindow(main_)) main_ = wizard_.FindWindowOf(kFormClass, L"");
+    if (Modal()) return true;
+    if (!main_ || !Visible(IDCANCEL) || !IsWindowEnabled(main_)) return false;
+    Ask(main_, WM_NULL);
+    return IsWindowEnabled(main_) && !Heading().empty();
+}
+
 bool Walker::WaitUntilReady() {
-    for (const DWORD begin = GetTickCount(); wizard_.IsRunning(); Sleep(1)) {
-        if (!main_ || !IsWindow(main_)) {
-            main_ = nullptr;
-            for (HWND window : WindowsOf(wizard_.ProcessId()))
-                if (ClassOf(window) == kFormClass) main_ = window;
-        }
-        if (Modal()) return true;
-        // Cancel is shown when the first page is about to be; a page change is over when it answers.
-        if (main_ && Visible(IDCANCEL) && IsWindowEnabled(main_)) {
-            Ask(main_, WM_NULL);
-            if (IsWindowEnabled(main_) && !Heading().empty()) return true;
-        }
-        if (GetTickCount() - begin > kPatience_ms) Fail(L"the wizard shows nothing");
-    }
-    return false;
+    wizard_.Until([this] { return !wizard_.IsRunning() || IsReady(); }, L"a page or a question");
+    return wizard_.IsRunning();
 }
 
 void Walker::TypeName() const {
@@ -120,25 +126,32 @@ void Walker::Close() {
 
 void Walker::LeavePage(Journey& journey) {
     const std::wstring heading = Heading();
-    visits_ = heading == lastPage_ ? visits_ + 1 : 1;
+    if (heading != lastPage_) {
+        journey.pages.push_back(heading);
+        refusals_ = 0;
+    }
     lastPage_ = heading;
-    if (visits_ == 1) journey.pages.push_back(heading);
     if (heading == L"Configuration Name") {
         // A second refusal will not be the last one: this page may be closed without a question.
-        if (visits_ > 2) return static_cast<void>(SendNotifyMessageW(main_, WM_CLOSE, 0, 0));
+        if (refusals_ > 1) return static_cast<void>(SendNotifyMessageW(main_, WM_CLOSE, 0, 0));
         TypeName();
     }
     if (onPage) onPage(heading);
-    HWND next = Next();
-    if (visits_ > kMostVisits || !next) Fail(L"no way on from the page " + heading);
-    Press(next);
+    if (refusals_ > kMostRefusals || !Next()) Fail(L"no way on from the page\n" + wizard_.Describe());
+    const bool last = heading == L"Finished";
+    const auto isLeft = [&] { return !wizard_.IsRunning() || Modal() || (!last && Heading() != heading); };
     // A click that comes while the wizard still waits for the desktop, in the middle of the last page change,
     // is dropped as any second one.
-    const auto stays = [&] { return wizard_.IsRunning() && !Modal() && Heading() == heading; };
-    for (const DWORD begin = GetTickCount(); stays() && GetTickCount() - begin < kSettle_ms;)
-        Sleep(1);
-    if (heading == L"Finished")
-        wizard_.Until([this] { return !wizard_.IsRunning() || Modal(); }, L"the end behind the last page");
+    ULONGLONG clicked = 0;
+    wizard_.Until(
+        [&] {
+            if (isLeft()) return true;
+            if (GetTickCount64() - clicked < kClick_ms) return false;
+            clicked = GetTickCount64();
+            if (const HWND next = Next()) Press(next);
+            return isLeft();
+        },
+        L"a page behind " + heading);
 }
 
 Journey Walker::Walk() {
@@ -149,6 +162,7 @@ Journey Walker::Walk() {
                 const bool box = ClassOf(modal) == L"#32770" && GetDlgItem(modal, kBoxTextId);
                 const std::wstring text = AnswerModal(modal);
                 if (box) journey.messages.push_back(text);
+                if (box) ++refusals_;
                 if (box && !IsKnownMessage(text)) Fail(L"an unexpected message: " + text);
                 continue;
             }
@@ -164,7 +178,7 @@ Journey Walker::Walk() {
     return journey;
 }
 
-Journey WalkWhole(const DemoSuite& suite, const wchar_t* arguments) {
-    const WizardDriver wizard(suite, arguments, WizardDriver::Wait::No);
+Journey WalkWhole(const std::wstring& commandLine) {
+    const WizardDriver wizard(commandLine, WizardDriver::Wait::No);
     return Walker(wizard).Walk();
 }

@@ -1,4 +1,4 @@
-#include "benchmark/LinuxProcess.h"
+#include "tools/driver/LinuxProcess.h"
 
 #include <windows.h>
 
