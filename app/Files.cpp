@@ -1,7 +1,7 @@
 #include "app/Files.h"
 
 #include "app/Blanks.h"
-#include "app/Com.h"
+#include "win/Com.h"
 #include "app/Paths.h"
 #include "win/Handles.h"
 

@@ -1,6 +1,6 @@
 #include "app/Launch.h"
 
-#include "app/Com.h"
+#include "win/Com.h"
 #include "app/Suite.h"
 #include "win/Handles.h"
 

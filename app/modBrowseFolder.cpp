@@ -1,6 +1,6 @@
 #include "app/modBrowseFolder.h"
 
-#include "app/Com.h"
+#include "win/Com.h"
 
 #include <shlobj.h>
 

@@ -5,18 +5,20 @@
 #include "ftw/TransmitRoot.h"
 #include "wizard/Page.h"
 
-#include <cstddef>
 #include <cstdint>
+#include <string>
+#include <vector>
 
 class frmWizard;
 
 struct FtwSession {
-    std::int32_t maxProgress = 0;               // FTSW_MaxProgress as it was at load
-    bool keepConfiguration = false;             // the user keeps what is configured
-    CncLocation location;                       // as typed, without quotation marks
-    std::size_t locationLimit = kLocationLimit; // bytes; of a kept location its own length when that is more
-    std::int16_t shortcutChoice = 0xFF;         // bit 0 desktop, 1 Start menu, 2 Quick Launch bar
-    int selectedSamples = 0;                    // on the import page, when it was left
+    std::int32_t maxProgress = 0;       // FTSW_MaxProgress as it was at load
+    bool keepConfiguration = false;     // the user keeps what is configured
+    CncLocation location;               // as typed, without quotation marks
+    bool folderExists = false;          // what the confirmation page has found of it
+    std::int16_t shortcutChoice = 0xFF; // bit 0 desktop, 1 Start menu, 2 Quick Launch bar
+    std::vector<std::wstring> samples;  // entries of the import page's list
+    int selectedSamples = 0;            // on the import page, when it was left
 };
 
 extern FtwSession ftwSession;
@@ -40,6 +42,9 @@ void PageFtwCreateConfig(frmWizard& form);
 void PageFtwCaution(frmWizard& form);
 void PageFtwBackup(frmWizard& form);
 void PageFtwFinal(frmWizard& form);
+
+void PrepareFtwConfirmLocation(frmWizard& form);
+void PrepareFtwImportSample(frmWizard& form);
 
 void LeaveFtwGetStarted(frmWizard& form, Move move);
 void LeaveFtwShortcuts(frmWizard& form, Move move);
@@ -74,16 +79,16 @@ inline constexpr Detour kPastEditing{1, NoSampleSelected};
 
 // clang-format off
 inline constexpr Page kFtwPages[] = {
-    // no  builder                 leave action             on Next       on Back           on Skip       Next's caption  Skip       Back
+    // no  builder                 leave action             on Next       on Back           on Skip       Next's caption  Skip       Back       looks up before
     { 1, PageFtwWelcome,         nullptr,                 kStraight,    kStraight,        kStraight,    kNextCaption,   Show::No,  Show::No },
     { 2, PageFtwChoose,          nullptr,                 kStraight,    kStraight,        kStraight,    kNextCaption,   Show::No,  Show::Yes},
     { 3, PageFtwIntroduction,    nullptr,                 kPastNumbers, kStraight,        kPastNumbers, kNextCaption,   Show::No,  Show::Yes},
     { 7, PageFtwGetStarted,      LeaveFtwGetStarted,      kStraight,    kBackPastNumbers, kStraight,    kNextCaption,   Show::Yes, Show::Yes},
     { 8, PageFtwShortcuts,       LeaveFtwShortcuts,       kStraight,    kStraight,        kStraight,    kNextCaption,   Show::Yes, Show::Yes},
     { 9, PageFtwLocation,        LeaveFtwLocation,        kStraight,    kStraight,        kPastOne,     kNextCaption,   Show::Yes, Show::Yes},
-    {10, PageFtwConfirmLocation, LeaveFtwConfirmLocation, kStraight,    kStraight,        kStraight,    kNextCaption,   Show::Yes, Show::Yes},
+    {10, PageFtwConfirmLocation, LeaveFtwConfirmLocation, kStraight,    kStraight,        kStraight,    kNextCaption,   Show::Yes, Show::Yes, PrepareFtwConfirmLocation},
     {11, PageFtwAboutConfig,     nullptr,                 kStraight,    kBackPastOne,     kStraight,    kNextCaption,   Show::No,  Show::Yes},
-    {12, PageFtwImportSample,    LeaveFtwImportSample,    kPastEditing, kStraight,        kPastOne,     kNextCaption,   Show::Yes, Show::Yes},
+    {12, PageFtwImportSample,    LeaveFtwImportSample,    kPastEditing, kStraight,        kPastOne,     kNextCaption,   Show::Yes, Show::Yes, PrepareFtwImportSample},
     {13, PageFtwEditSample,      nullptr,                 kStraight,    kStraight,        kStraight,    kNextCaption,   Show::Yes, Show::Yes},
     {14, PageFtwCreateConfig,    nullptr,                 kStraight,    kBackPastOne,     kStraight,    kNextCaption,   Show::No,  Show::Yes},
     {15, PageFtwCaution,         nullptr,                 kStraight,    kStraight,        kStraight,    kNextCaption,   Show::No,  Show::Yes},

@@ -11,16 +11,17 @@
 #include "wizard/Markup.h"
 #include "wizard/frmWizard.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr std::size_t kDefaultFolderLink = 1;
 
-std::wstring LocationBlock(const std::wstring& folders) {
+std::wstring LocationBlock(const std::wstring& folders, bool exists) {
     if (TrimBlanks(folders).empty())
         return L"Click <b>Next</b> to allow access to all files on your computer.";
     const std::wstring shown = L"     <b>" + WithoutTags(ShownLocation(folders)) + L"</b>";
-    if (FolderExists(LocationPath(folders)))
-        return L"Click <b>Next</b> to confirm the location of your CNC program files:\r\n" + shown;
+    if (exists) return L"Click <b>Next</b> to confirm the location of your CNC program files:\r\n" + shown;
     return L"<b><r>The folder you specified does not exist:</r></b>\r\n" + shown +
            L"\r\n\r\nClick <b>Next</b> to create a new folder with this name.";
 }
@@ -29,13 +30,19 @@ std::wstring Refusal(const std::wstring& reason) {
     return IniWriteError().Description() + L"\r\n\r\n" + reason;
 }
 
+// Letters of two bytes: more of them than the suite's programs read back. The box lets nobody type more
+// characters than that; a longer text was given whole, by the settings file or another program, and is kept.
+bool HasTooManyBytes(const std::wstring& folders) {
+    return folders.size() <= kLocationLimit && AnsiSize(folders) > kLocationLimit;
+}
+
 // What keeps the location from being stored, "" when nothing does. A character that the file cannot hold
-// would turn into another one there, and of a longer value the suite's programs would read the beginning.
+// would turn into another one there.
 std::wstring WriteProblem(const CncLocation& location) {
     const std::wstring value = TransmitRootValue(location);
     if (const auto foreign = FirstNotInAnsi(value))
         return Refusal(L"It cannot hold the character \"" + *foreign + L"\".");
-    if (AnsiSize(TrimBlanks(location.folders)) > ftwSession.locationLimit)
+    if (HasTooManyBytes(TrimBlanks(location.folders)))
         return Refusal(L"The file location is too long: up to " + std::to_wstring(kLocationLimit) +
                        L" characters are allowed, and some letters count as two or three.");
     try {
@@ -59,9 +66,8 @@ void PageFtwLocation(frmWizard& form) {
     InputColumn column(form);
     column.Width(layout::kTextWidth);
     column.Prompt(0, L"Enter CNC file &location");
-    // The box counts characters, of which none takes less than a byte: the bytes are counted when it is
-    // stored.
-    column.TextBox(0, ftwSession.location.folders, static_cast<int>(ftwSession.locationLimit)).Focus();
+    const std::wstring& folders = ftwSession.location.folders;
+    column.TextBox(0, folders, static_cast<int>(std::max(kLocationLimit, folders.size()))).Focus();
     column.Links(kFtwLinks, form.PageNo);
     if (locations.CommonDocumentsPath.empty()) form.pool.lblHyperlink[kDefaultFolderLink].Visible(false);
 }
@@ -73,6 +79,11 @@ void LeaveFtwLocation(frmWizard& form, Move move) {
     if (move != Move::Skip && typed != folders) folders = WithoutQuotes(typed);
 }
 
+// A server that is gone may take half a minute to say so.
+void PrepareFtwConfirmLocation(frmWizard&) {
+    ftwSession.folderExists = FolderExists(LocationPath(ftwSession.location.folders));
+}
+
 void PageFtwConfirmLocation(frmWizard& form) {
     // Hidden, but read when the page is left: another page has used the box for something else. It comes
     // first, so that it is right whatever becomes of the text.
@@ -80,7 +91,7 @@ void PageFtwConfirmLocation(frmWizard& form) {
     form.WriteHeading(L"Confirm CNC file location");
     // clang-format off
     form.WriteInfo(
-        LocationBlock(ftwSession.location.folders) + L"\r\n\r\n"
+        LocationBlock(ftwSession.location.folders, ftwSession.folderExists) + L"\r\n\r\n"
         L"Click <b>Back</b> to choose a different file location.\r\n\r\n"
         L"You can change the file location or add more folders later by clicking <b>Root folders</b> in the Varnel DNC File Manager's <b>Configure</b> menu.");
     // clang-format on
@@ -95,7 +106,7 @@ void LeaveFtwConfirmLocation(frmWizard& form, Move move) {
 void SaveTransmitRoot(frmWizard& form) {
     const std::wstring problem = WriteProblem(ftwSession.location);
     FlushIni();
-    if (!problem.empty()) win::ShowMessageBox(form.Hwnd(), problem, MB_OK | MB_ICONEXCLAMATION);
+    if (!problem.empty()) form.TellOfRefusedWrite(problem);
     const std::wstring path = LocationPath(ftwSession.location.folders);
     if (!IsFolderList(path)) CreateDirectoryW(path.c_str(), nullptr); // one that exists is left as it is
 }

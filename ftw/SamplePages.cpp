@@ -28,6 +28,10 @@ void PageFtwAboutConfig(frmWizard& form) {
     // clang-format on
 }
 
+void PrepareFtwImportSample(frmWizard&) {
+    ftwSession.samples = SampleEntries(ListFiles(locations.SamplesPath, suite::kConfigurationExtension));
+}
+
 void PageFtwImportSample(frmWizard& form) {
     form.WriteHeading(L"Import Sample CNC Configuration Files");
     // clang-format off
@@ -38,8 +42,7 @@ void PageFtwImportSample(frmWizard& form) {
     InputColumn column(form);
     column.Width(layout::kTextWidth);
     column.Prompt(0, L"Sample &configurations");
-    column.List(0, layout::kContentBottom - layout::kGapBetween - column.Top())
-        .Fill(SampleEntries(ListFiles(locations.SamplesPath, suite::kConfigurationExtension)));
+    column.List(0, layout::kContentBottom - layout::kGapBetween - column.Top()).Fill(ftwSession.samples);
 }
 
 // "No" leaves the samples where they are and goes on to the page about editing them all the same.

@@ -47,7 +47,6 @@ void HandOverToConfigManager(frmWizard& form) {
 void KeepConfiguration() {
     ftwSession.keepConfiguration = true;
     ftwSession.location = ReadTransmitRoot(ReadWholeIniString(suite::kGeneral, suite::kTransmitRoot));
-    ftwSession.locationLimit = std::max(kLocationLimit, AnsiSize(ftwSession.location.folders));
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 
 #include "app/Blanks.h"
 #include "app/CodePage.h"
-#include "app/Com.h"
+#include "win/Com.h"
 #include "app/SpecialFolders.h"
 
 #include <objbase.h>

@@ -1,5 +1,6 @@
 #include "win/Accessible.h"
 
+#include "win/Com.h"
 #include "win/SystemLibrary.h"
 
 #include <oleacc.h>
@@ -94,6 +95,7 @@ LRESULT AnswerGetObject(HWND window, WPARAM wParam, LPARAM lParam, LONG role, co
     const auto create = As<decltype(&CreateStdAccessibleObject)>(Oleacc("CreateStdAccessibleObject"));
     const auto answer = As<decltype(&LresultFromObject)>(Oleacc("LresultFromObject"));
     if (!create || !answer) return 0;
+    StartOle(); // the object goes to another thread or program
     void* system = nullptr;
     if (FAILED(create(window, OBJID_CLIENT, IID_IAccessible, &system)) || !system) return 0;
     auto* control = new DrawnControl(static_cast<IAccessible*>(system), role, name);

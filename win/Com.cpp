@@ -1,4 +1,4 @@
-#include "app/Com.h"
+#include "win/Com.h"
 
 #include <windows.h>
 
