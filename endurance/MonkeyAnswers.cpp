@@ -63,7 +63,7 @@ std::wstring Difference(const Row& row, const Shown& shown, bool left) {
     for (std::size_t i = 0; i < 2 && row.texts[i]; ++i) {
         const std::wstring& typed = shown.texts.at(i);
         if (left && row.how == Stores::Typed && !CanBeStored(typed, i == 0 ? kCodesLength : 3)) continue;
-        if (*row.texts[i] != typed && *row.texts[i] != WithoutQuotes(typed))
+        if (*row.texts[i] != typed)
             return std::wstring(row.heading) + L" shows \"" + typed + L"\", stored is \"" + *row.texts[i] +
                    L"\"";
     }
