@@ -335,7 +335,7 @@ LRESULT frmIcons::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void frmIcons::OnDrawItem(win::Control& control, const DRAWITEMSTRUCT& item) {
-    // The strip too: the system's own white rectangle is of another colour in high-contrast schemes.
+    // The strip too: the system's own white rectangle is of another color in high-contrast schemes.
     FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_WINDOW));
     if (&control == &picIcons) return;
     const auto slot = static_cast<std::int16_t>(control.Id() - kSlotId + 1);
