@@ -9,13 +9,16 @@ bool IsPair(std::wstring_view text) {
 }
 
 // The way back tells exactness under every code page; the system's own flags for it are refused by UTF-8.
+bool Survives(std::wstring_view character, std::size_t mostBytes, unsigned codePage) {
+    const std::string bytes = ToAnsi(character, codePage);
+    return bytes.size() <= mostBytes && FromAnsi({bytes.data(), bytes.size()}, codePage) == character;
+}
+
 std::optional<std::wstring> FirstUnfit(std::wstring_view text, std::size_t mostBytes, unsigned codePage) {
     for (std::size_t i = 0, length = 0; i < text.size(); i += length) {
         length = IsPair(text.substr(i)) ? 2 : 1;
         const std::wstring_view character = text.substr(i, length);
-        const std::string bytes = ToAnsi(character, codePage);
-        if (bytes.size() > mostBytes || FromAnsi(bytes, codePage) != character)
-            return std::wstring(character);
+        if (!Survives(character, mostBytes, codePage)) return std::wstring(character);
     }
     return std::nullopt;
 }

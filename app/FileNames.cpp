@@ -10,6 +10,7 @@ namespace {
 
 constexpr std::array<std::wstring_view, 6> kDevices = {L"CON", L"PRN", L"AUX", L"NUL", L"CONIN$", L"CONOUT$"};
 constexpr std::array<std::wstring_view, 2> kNumberedDevices = {L"COM", L"LPT"};
+// Windows takes superscript digits for digits.
 constexpr std::wstring_view kDeviceNumbers = L"0123456789\u00b9\u00b2\u00b3";
 
 template <class Table> bool Holds(const Table& table, std::wstring_view text) {

@@ -23,6 +23,7 @@ bool ShellOperation(UINT function, const std::wstring& from, const std::wstring*
     operation.pFrom = source.c_str();
     operation.pTo = to ? target.c_str() : nullptr;
     operation.fFlags = static_cast<FILEOP_FLAGS>(flags);
+    // A user who refuses is no failure to the shell.
     return SHFileOperationW(&operation) == 0 && !operation.fAnyOperationsAborted;
 }
 

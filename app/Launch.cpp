@@ -55,6 +55,7 @@ void RunCommandLine(const std::wstring& commandLine) {
     }
     const win::UniqueKernelHandle thread(process.hThread);
     const win::UniqueKernelHandle started(process.hProcess);
+    // Else its window may only flash in the task bar: the focus is this program's to give.
     AllowSetForegroundWindow(process.dwProcessId);
 }
 

@@ -11,6 +11,7 @@ std::int32_t NumericValue(std::wstring_view text) {
     using Limits = std::numeric_limits<std::int32_t>;
     std::int64_t value = 0;
     for (const wchar_t c : text) {
+        // Once beyond 32 bits the rest cannot matter, and would leave 64 bits as well.
         if (c < L'0' || c > L'9' || value > Limits::max()) break;
         value = value * 10 + (c - L'0');
     }

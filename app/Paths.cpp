@@ -9,6 +9,7 @@ std::wstring_view Part(std::wstring_view path, std::int16_t part) {
     const std::size_t backslash = path.rfind(L'\\');
     const std::size_t name = backslash == path.npos ? drive : backslash + 1;
     const std::size_t lastDot = path.rfind(L'.');
+    // A dot in the name of a folder begins no extension.
     const std::size_t dot = lastDot == path.npos || lastDot < name ? path.size() : lastDot;
     // clang-format off
     switch (part) {

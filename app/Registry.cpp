@@ -40,6 +40,7 @@ std::wstring ReadUserPathValue(const std::wstring& key, const std::wstring& subK
     const auto value = ReadRaw(HKEY_CURRENT_USER, key + L"\\" + subKey, valueName);
     if (!value) return defaultText;
     DWORD length = value->size;
+    // An empty value may have no byte at all, not even its NUL.
     if (length > 0 && value->bytes[length - 1] == '\0') --length;
     return FromAnsi({value->bytes, length});
 }
@@ -48,6 +49,7 @@ std::wstring ReadRegString(HKEY root, const std::wstring& subKey, const std::wst
                            const std::wstring& defaultText) {
     const auto value = ReadRaw(root, subKey, valueName);
     if (!value) return defaultText;
+    // What the registry reports does not count here: the buffer was NULs before.
     const std::string_view all(value->bytes, sizeof value->bytes);
     return FromAnsi(all.substr(0, all.find('\0')));
 }

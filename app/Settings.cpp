@@ -26,7 +26,7 @@ std::wstring ReadValue(const std::wstring& file, const std::wstring& section, co
 // Each write makes the whole file anew. On a full disk the profile function has been seen to report success
 // and to lose the keys that no longer fitted. Other programs write the file, too, so it is not opened here.
 bool HasRoom(const std::wstring& file) {
-    constexpr ULONGLONG kSpare = 8 * 1024; // bytes
+    constexpr ULONGLONG kSpare = 8192; // bytes
     WIN32_FILE_ATTRIBUTE_DATA data{};
     ULARGE_INTEGER size{}, free{};
     if (GetFileAttributesExW(file.c_str(), GetFileExInfoStandard, &data)) {

@@ -23,7 +23,7 @@ std::wstring BrowseForFolder(const std::wstring& startFolder, HWND ownerWindow, 
     wchar_t displayName[MAX_PATH] = L"";
     BROWSEINFOW browse{};
     browse.hwndOwner = ownerWindow;
-    browse.pszDisplayName = displayName;
+    browse.pszDisplayName = displayName; // not read, but the shell wants to write it
     browse.lpszTitle = title.c_str();
     browse.ulFlags = flags;
     browse.lpfn = BrowseCallback;

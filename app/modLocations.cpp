@@ -19,6 +19,7 @@ std::wstring ModulePath() {
     std::wstring path(MAX_PATH, L'\0');
     for (;;) {
         const DWORD length = GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size()));
+        // What does not fit is cut, and only the length of the buffer tells.
         if (length < path.size()) return path.substr(0, length);
         path.resize(path.size() * 2);
     }
@@ -32,6 +33,7 @@ std::wstring ModuleFolder(const std::wstring& modulePath) {
     return folder + L'\\';
 }
 
+// What Windows calls relative to a drive ("\\Dnc", "D:Dnc") is relative as well.
 bool IsRelative(const std::wstring& path) {
     const bool drive = path.size() >= 3 && path[1] == L':' && (path[2] == L'\\' || path[2] == L'/');
     const bool unc = path.starts_with(L"\\\\");

@@ -24,7 +24,7 @@ void RunMessageLoop() {
 void Main(const wchar_t* commandLine) {
     InitLocations();
     startUp = ParseCommandLine(commandLine);
-    InstanceClaim claim;
+    InstanceClaim claim; // kept until the program ends
     if (FindRunningWizard(startUp.WizardTitle) || !claim.Take(startUp.WizardMode, startUp.WizardTitle))
         return;
     startUp.SamplesFolder = locations.SamplesPath;
@@ -42,6 +42,7 @@ void Main(const wchar_t* commandLine) {
 } // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR commandLine, int) {
+    // Before anything that may load a library or look at a drive.
     RefusePlantedLibraries();
     RefuseSystemBoxes();
     try {

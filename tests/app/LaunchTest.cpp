@@ -20,6 +20,7 @@ std::wstring asked; // what the shell was asked
 bool isComBegun;    // at that moment
 constexpr DWORD kWanted = SEE_MASK_NOASYNC | SEE_MASK_FLAG_NO_UI;
 
+// NOLINTNEXTLINE(readability-function-size): as the system has it
 BOOL WINAPI Start(LPCWSTR, LPWSTR line, LPSECURITY_ATTRIBUTES, LPSECURITY_ATTRIBUTES, BOOL, DWORD, LPVOID,
                   LPCWSTR, LPSTARTUPINFOW, LPPROCESS_INFORMATION) {
     line[0] = L'x'; // as the system may

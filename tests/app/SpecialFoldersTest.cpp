@@ -10,7 +10,7 @@
 namespace {
 
 // What the shell answers, and what it was asked.
-struct Shell {
+struct Answers {
     HRESULT found;
     BOOL hasPath;
     const wchar_t* path;
