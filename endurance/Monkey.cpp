@@ -121,8 +121,9 @@ class Monkey {
         }
         page_ = heading;
         shown_ = inputs;
-        const HWND focus = wizard.Focus();
-        if (!focus || !IsChild(walker.Main(), focus)) Fail(L"nothing has the focus");
+        const HWND focus = wizard.Focus(); // of a window that is not in front it tells nothing
+        if (GetForegroundWindow() == walker.Main() && !IsChild(walker.Main(), focus))
+            Fail(L"nothing has the focus");
         const auto buttons = ControlsOf(walker.Main(), L"Button");
         if (std::ranges::count_if(buttons, [](HWND button) {
                 return (GetWindowLongW(button, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON;

@@ -1,13 +1,11 @@
-// Settings files of every kind, through a whole run of both wizards: every key of others reads as before,
+// Settings files in every state, through a whole run of both wizards: every key of others reads as before,
 // every comment line stands, and what cannot be written is told.
 #include "endurance/Scene.h"
 #include "endurance/Soak.h"
 #include "tests/support/DemoSuite.h"
 #include "tools/driver/Walker.h"
 
-#include <algorithm>
 #include <atomic>
-#include <set>
 #include <sstream>
 #include <thread>
 
@@ -18,219 +16,137 @@ enum class Disk { Large, Full, FillsUp };
 
 struct Row {
     const wchar_t* what;
-    std::string content;
     Ends ends;
-    Spoilt how = Spoilt::Not;
-    Disk disk = Disk::Large;
+    Spoilt how;
+    Disk disk;
+    bool large;
 };
 
+// clang-format off
+constexpr Row kRows[] = {
+    {L"usual",              Ends::Finished, Spoilt::Not,      Disk::Large,   false},
+    {L"many keys",          Ends::Finished, Spoilt::Not,      Disk::Large,   true},
+    {L"missing",            Ends::Denied,   Spoilt::Missing,  Disk::Large,   false},
+    {L"a folder",           Ends::Denied,   Spoilt::Folder,   Disk::Large,   false},
+    {L"locked",             Ends::Denied,   Spoilt::Locked,   Disk::Large,   false},
+    {L"read-only",          Ends::Denied,   Spoilt::ReadOnly, Disk::Large,   false},
+    {L"full disk",          Ends::Denied,   Spoilt::Not,      Disk::Full,    false},
+    {L"disk that fills up", Ends::Told,     Spoilt::Not,      Disk::FillsUp, false},
+};
+// clang-format on
+
 // Keys of others around those of the wizard, with comments.
-const std::string kUsual = "; of the installer\r\n[General]\r\nSecurity=0\r\n;old\r\nFTSW_MaxProgress=3\r\n"
-                           "Name=DNC\r\n[Install]\r\nOptions=7\r\n; last\r\n[Other]\r\nA=1\r\nB=\r\n";
-
-// The usual keys and, so often, `before`, a number and `after`.
-std::string Many(const char* section, const std::string& before, const std::string& after, int count) {
-    std::string text = kUsual + section;
-    for (int i = 0; i < count; ++i)
-        text.append(before).append(std::to_string(i)).append(after);
+std::string Content(int keys) {
+    std::string text = "; of the installer\r\n[General]\r\nSecurity=0\r\n;old\r\nFTSW_MaxProgress=3\r\n"
+                       "Name=DNC\r\n[Install]\r\nOptions=7\r\n; last\r\n[Other]\r\nA=1\r\nB=\r\n[Many]\r\n";
+    for (int i = 0; i < keys; ++i)
+        text += "key" + std::to_string(i) + "=value " + std::to_string(i) + "\r\n";
     return text;
 }
 
-std::string Utf16(const std::string& ascii) {
-    std::string text = "\xFF\xFE";
-    for (const char c : ascii)
-        (text += c) += '\0';
-    return text;
-}
-
-std::string Readable(std::string content) {
-    if (content.starts_with("\xFF\xFE")) std::erase(content.erase(0, 2), '\0');
-    return content;
-}
-
-std::string UnixLines() {
-    std::string text = kUsual;
-    std::erase(text, '\r');
-    return text;
-}
-
-// Made one at a time: some are large.
-Row RowNumber(std::size_t number, int size) {
-    // clang-format off
-    switch (number) {
-    case 0:  return {L"usual",              kUsual,                                        Ends::Finished};
-    case 1:  return {L"missing",            "",                                            Ends::Denied, Spoilt::Missing};
-    case 2:  return {L"empty",              "",                                            Ends::Finished};
-    case 3:  return {L"a folder",           "",                                            Ends::Denied, Spoilt::Folder};
-    case 4:  return {L"locked",             kUsual,                                        Ends::Denied, Spoilt::Locked};
-    case 5:  return {L"read-only",          kUsual,                                        Ends::Denied, Spoilt::ReadOnly};
-    case 6:  return {L"many keys",          Many("[Many]\r\n", "key", "=value\r\n", size), Ends::Finished};
-    case 7:  return {L"many sections",      Many("", "[s", "]\r\nk=v\r\n; c\r\n", size / 10), Ends::Finished};
-    case 8:  return {L"line of 64 kB",      kUsual + "[Long]\r\nk=" + std::string(65536, 'l') + "\r\nafter=1\r\n", Ends::Finished};
-    case 9:  return {L"UTF-16",             Utf16(kUsual),                                 Ends::Finished};
-    case 10: return {L"UTF-8 mark",         "\xEF\xBB\xBF" + kUsual,                       Ends::Finished};
-    case 11: return {L"sections twice",     kUsual + "[Install]\r\nOptions=9\r\n[Other]\r\nA=2\r\nA=3\r\n[other]\r\na=4\r\n", Ends::Finished};
-    case 12: return {L"quotes and blanks",  kUsual + "[Quotes]\r\na=\"quoted\"\r\nb=  blanks  \r\nc=' x '\r\nd=\"half\r\n e = indented\r\n"
-                                            "f=a=b\r\ng=x;y\r\nh=\"\"\"\"\r\n",            Ends::Finished};
-    case 13: return {L"LF alone",           UnixLines(),                                   Ends::Finished};
-    case 14: return {L"no last line end",   kUsual + "[End]\r\nk=v",                       Ends::Finished};
-    case 15: return {L"stray lines",        "stray=1\r\n=x\r\nno key\r\n]\r\n" + kUsual + "[Open\r\nx=1\r\n", Ends::Finished};
-    case 16: return {L"odd values",         "[General]\r\nSecurity=99999999999\r\nFTSW_MaxProgress=-32769\r\n[Install]\r\nOptions=abc\r\n"
-                                            "[General2]\r\nSecurity=7\r\n",                Ends::Finished};
-    case 17: return {L"umlauts",            kUsual + "[\xDCml]\r\nschl\xFCssel=\xE4\xF6\xFC\x80\x81\r\n", Ends::Finished};
-    case 18: return {L"full disk",          Many("[Many]\r\n", "key", "=value\r\n", 1000), Ends::Denied, Spoilt::Not, Disk::Full};
-    default: return {L"disk that fills up", Many("[Many]\r\n", "key", "=value\r\n", 1000), Ends::Told,   Spoilt::Not, Disk::FillsUp};
-    }
-    // clang-format on
-}
-constexpr std::size_t kRows = 20;
-
-const std::set<std::string> kOwnKeys = {"FTSW_MaxProgress", "TransmitRoot", "RxNameMode",
-                                        "RxChangeNameMode", "NavAutoStart", "AccessTest"};
-
-std::string Trimmed(const std::string& text) {
-    const std::size_t first = text.find_first_not_of(" \t\r");
-    if (first == std::string::npos) return {};
-    return text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
-}
-
-// Some hundred keys of others that stand in `content`, evenly spread, as the profile call reads them.
-std::vector<std::string> ValuesIn(const std::wstring& file, const std::string& content) {
-    std::vector<std::pair<std::string, std::string>> keys;
-    std::string section;
+// Those lines of `content` that are not in `file` any more; the wizard's own key apart.
+std::string Lost(const std::string& content, const std::string& file) {
+    std::string lost;
     std::istringstream lines(content);
-    for (std::string line; std::getline(lines, line);) {
-        line = Trimmed(line);
-        if (line.starts_with('[') && line.ends_with(']')) section = line.substr(1, line.size() - 2);
-        const std::string key = Trimmed(line.substr(0, line.find('=')));
-        if (key.size() < line.size() && !key.empty() && line.find('=') != line.npos &&
-            !kOwnKeys.contains(key))
-            keys.emplace_back(section, key);
-    }
-    std::vector<std::string> values;
-    for (std::size_t i = 0; i < keys.size(); i += 1 + keys.size() / 300) {
-        std::string value(70000, '\0');
-        const auto& [name, key] = keys[i];
-        value.resize(GetPrivateProfileStringA(name.c_str(), key.c_str(), "(absent)", value.data(), 70000,
-                                              Utf8(file).c_str()));
-        values.push_back(key);
-        values.back().append("=").append(value);
-    }
-    return values;
-}
-
-std::multiset<std::string> Comments(const std::string& content) {
-    std::multiset<std::string> comments;
-    std::istringstream lines(Readable(content));
     for (std::string line; std::getline(lines, line);)
-        if (Trimmed(line).starts_with(';')) comments.insert(Trimmed(line));
-    return comments;
+        if (!line.starts_with("FTSW_MaxProgress") && file.find(line) == std::string::npos) lost += line;
+    return lost;
 }
 
 constexpr DWORD kDiskBlock = 4096;
 
 // Takes what is free, to the last byte.
 void FillUp(const std::wstring& disk) {
-    const HANDLE file =
-        CreateFileW((disk + L"filler").c_str(), FILE_APPEND_DATA, 0, nullptr, OPEN_ALWAYS, 0, nullptr);
+    const win::UniqueFile file(
+        CreateFileW((disk + L"filler").c_str(), FILE_APPEND_DATA, 0, nullptr, OPEN_ALWAYS, 0, nullptr));
     const std::string block(kDiskBlock, 'f');
     for (DWORD size = kDiskBlock, written = 0; size > 0; size = written == size ? size : size / 2)
-        if (!WriteFile(file, block.data(), size, &written, nullptr)) written = 0;
-    CloseHandle(file);
+        if (!WriteFile(file.Get(), block.data(), size, &written, nullptr)) written = 0;
 }
 
 // Nothing is left then: neither on the disk nor in the last block of the file itself.
-void FillUpWith(const std::wstring& disk, const std::wstring& file, std::string& content) {
+void FillUpWith(const std::wstring& disk, const std::wstring& file) {
     FillUp(disk);
     const std::size_t free = kDiskBlock - FileBytes(file).size() % kDiskBlock;
     if (free < 100 || free == kDiskBlock) return;
-    const std::string comment = ";" + std::string(free - 3, 'f') + "\r\n";
-    WriteFileBytes(file, FileBytes(file) + comment);
-    content += comment;
+    WriteFileBytes(file, FileBytes(file) + ";" + std::string(free - 3, 'f') + "\r\n");
     FillUp(disk);
 }
 
-void Run(Tally& tally, const DemoSuite& suite, Row& row, const std::wstring& settings,
+Ends EndOf(const Journey& journey) {
+    if (journey.Passed(L"Permission denied!")) return Ends::Denied;
+    const bool told = journey.Told(L"Unable to write data to configuration file: ") ||
+                      journey.Told(L"The configuration file could not be written:");
+    return told ? Ends::Told : Ends::Finished;
+}
+
+void Run(Tally& tally, const DemoSuite& suite, const Row& row, const std::wstring& settings, Ends ends,
          const wchar_t* arguments) {
-    const std::wstring named = row.what + std::wstring(L" ") + arguments + L": ";
     if (row.disk == Disk::FillsUp) DeleteFileW((settings + L"filler").c_str());
     const WizardDriver wizard(suite.CommandLine(arguments), WizardDriver::Wait::No);
     Walker walker(wizard);
-    const ULONGLONG begin = GetTickCount64();
-    walker.WaitUntilReady();
-    const ULONGLONG start = GetTickCount64() - begin;
-    tally.Expect(start < 10000, named + L"took " + std::to_wstring(start) + L" ms to start");
     if (row.disk == Disk::FillsUp)
-        walker.onPage = [&](const std::wstring&) { FillUpWith(settings, settings + kIniName, row.content); };
+        walker.onPage = [&](const std::wstring&) { FillUpWith(settings, settings + kIniName); };
     const Journey journey = walker.Walk();
-    const bool told = journey.Told(L"Unable to write data to configuration file: ") ||
-                      journey.Told(L"The configuration file could not be written:");
-    const Ends ends = journey.Passed(L"Permission denied!") ? Ends::Denied
-                      : told                                ? Ends::Told
-                                                            : Ends::Finished;
-    tally.Expect(journey.trouble.empty() && ends == row.ends &&
+    tally.Expect(journey.trouble.empty() && EndOf(journey) == ends &&
                      (ends != Ends::Finished || journey.Passed(L"Finished")),
-                 named + journey.Story() + L" ended " + std::to_wstring(static_cast<int>(ends)));
-    // The first run makes a missing file.
-    if (row.how == Spoilt::Missing) row.ends = Ends::Finished;
+                 std::wstring(row.what) + L" " + arguments + L": " + journey.Story());
 }
 
-void Try(Tally& tally, Row row) {
+void Try(Tally& tally, const Row& row) {
     const DemoSuite suite;
     const std::wstring settings =
         row.disk == Disk::Large ? suite.Settings() : FromEnvironment(L"SOAK_SMALL_DISK");
     if (settings.empty()) return tally.Skip(std::wstring(row.what) + L": needs root to mount a small disk");
     const std::wstring file = settings + kIniName;
+    const std::string content = Content(row.large ? tally.Of(100000, 1000) : 0);
     for (const std::wstring& old : FileNames(settings))
         DeleteFileW((settings + old).c_str());
     SetRegText(HKEY_CURRENT_USER, L"SOFTWARE\\Varnel\\Varnel DNC\\Paths", L"SettingsPath", settings);
-    WriteFileBytes(file, row.content);
-    const auto before = ValuesIn(file, Readable(row.content));
+    WriteFileBytes(file, content);
     {
         const win::UniqueKernelHandle lock = Spoil(file, row.how);
         if (row.disk == Disk::Full) FillUp(settings);
-        for (const wchar_t* arguments : {L"", L"/NDW"})
-            Run(tally, suite, row, settings, arguments);
+        Run(tally, suite, row, settings, row.ends, L"");
+        // The first run makes a missing file.
+        Run(tally, suite, row, settings, row.how == Spoilt::Missing ? Ends::Finished : row.ends, L"/NDW");
     }
     SetFileAttributesW(file.c_str(), FILE_ATTRIBUTE_NORMAL);
-    if (row.how == Spoilt::Folder) return;
-    const auto after = ValuesIn(file, Readable(row.content));
-    for (std::size_t i = 0; i < before.size(); ++i)
-        if (after.at(i) != before[i]) tally.Expect(false, row.what + (L": key " + FromUtf8(before[i])));
-    tally.Expect(Comments(row.content) == Comments(FileBytes(file)), std::wstring(row.what) + L": comments");
+    if (row.how == Spoilt::Folder || row.how == Spoilt::Missing) return;
+    const std::string lost = Lost(content, FileBytes(file));
+    tally.Expect(lost.empty(), row.what + (L": lost " + FromUtf8(lost)));
 }
 
-// Another program of the suite writes a key every 20 ms: every start finds the file and leaves it whole.
+// Another program of the suite writes a key every 20 ms: every start succeeds, and none of its writes is
+// refused. That two writers never lose a key of each other is more than the profile calls promise.
 void TryOtherWriters(Tally& tally, int starts) {
     const DemoSuite suite;
     const std::string file = Utf8(suite.Settings() + kIniName);
-    WriteFileBytes(suite.Settings() + kIniName, kUsual);
+    WriteFileBytes(suite.Settings() + kIniName, Content(0));
     std::atomic<int> refused = 0;
     std::jthread writer([&](const std::stop_token& over) {
         for (int i = 0; !over.stop_requested(); ++i, Sleep(20))
-            refused += !WritePrivateProfileStringA("Other", "Count", std::to_string(i).c_str(), file.c_str());
+            refused += !WritePrivateProfileStringA("Third", "Count", std::to_string(i).c_str(), file.c_str());
     });
     for (int i = 0; i < starts; ++i) {
         const WizardDriver wizard(suite.CommandLine(i % 2 ? L"/NDW" : L""), WizardDriver::Wait::No);
         Walker walker(wizard);
         walker.stopAt = i % 2 ? L"New CNC Configuration" : L"Welcome";
         const Journey journey = walker.Walk();
-        tally.Expect(journey.trouble.empty() && wizard.IsRunning() && journey.messages.empty() &&
-                         !walker.Heading().starts_with(L"Permission"),
+        tally.Expect(journey.trouble.empty() && wizard.IsRunning() && walker.Heading() == walker.stopAt,
                      L"beside another writer: " + journey.Story());
+        if (wizard.IsRunning()) walker.Close();
     }
     writer.request_stop();
     writer.join();
-    tally.Expect(refused == 0, L"writes of the other program that were refused: " + std::to_wstring(refused));
-    tally.Expect(suite.Setting(L"Security") == L"0" && suite.Setting(L"Name") == L"DNC",
-                 L"a key was lost beside another writer");
+    tally.Expect(refused == 0, std::to_wstring(refused) + L" writes of the other program were refused");
 }
 
 } // namespace
 
 void CheckSettingsFile(Tally& tally) {
-    for (std::size_t number = 0; number < kRows; number += tally.Quick() && number < 18 ? 6 : 1)
-        Try(tally, RowNumber(number, tally.Of(100000, 1000)));
+    for (const Row& row : kRows)
+        Try(tally, row);
     TryOtherWriters(tally, tally.Of(80, 8));
-    tally.Note(std::to_string(tally.Quick() ? 5 : kRows) + " settings files through both wizards");
+    tally.Note(std::to_string(std::size(kRows)) + " settings files through both wizards, another writer");
 }

@@ -35,6 +35,11 @@ TEST_F(Navigation, AClickWhileItsHandlerRunsIsDropped) {
     PostMessageW(form.cmdSkip.Handle(), BM_CLICK, 0, 0);
     EXPECT_EQ(Answering({IDOK}, [&] { form.cmdSkip_Click(); }).size(), 1u);
     EXPECT_EQ(form.PageNo, 7);
+    Start(12);
+    form.pool.lstUserInput[0].Send(LB_SETSEL, TRUE, 0);
+    PostMessageW(form.cmdNext.Handle(), BM_CLICK, 0, 0);
+    EXPECT_EQ(Answering({IDNO}, [&] { form.cmdNext_Click(); }).size(), 1u);
+    EXPECT_EQ(form.PageNo, 13);
 }
 
 TEST_F(Navigation, WhenClosingAsks) {

@@ -75,6 +75,10 @@ TEST_P(PageRules, WhatTakesTheFocusHasANameAndAccessKeysAreUnique) {
                 ExpectRole(control, ROLE_SYSTEM_LINK);
                 EXPECT_EQ(SpokenOf(control).name, win::WindowText(control));
             }
+            const bool isPush = IsButton(control, BS_PUSHBUTTON) || IsButton(control, BS_DEFPUSHBUTTON);
+            if (isPush || IsButton(control, BS_OWNERDRAW)) { // else a double click would be two clicks
+                EXPECT_TRUE(GetWindowLongW(control, GWL_STYLE) & BS_NOTIFY);
+            }
             if (ClassOf(control) != win::RichText::kClassName && AccessKey(control)) {
                 EXPECT_EQ(++uses[AccessKey(control)], 1) << "one access key twice";
             }
@@ -189,6 +193,18 @@ TEST(PageLooks, OfEachKindOfMarkUp) {
         ftwSession.location.folders = row.folders;
         test.Show(row.page);
         EXPECT_EQ(Utf8(Described(test.form.txtInfo)), Utf8(row.look));
+    }
+}
+
+TEST(PageChoose, KeepingIsOfferedToWhoHasSomethingToKeep) {
+    const ScratchSuite suite;
+    FormUnderTest test(kFirstTimeSetup);
+    for (const auto& [progress, offered] :
+         {std::pair("5", false), {"abc", false}, {"6", true}, {"\" 17 x\"", true}}) {
+        suite.Ini(std::string("[General]\r\nFTSW_MaxProgress=") + progress + "\r\n");
+        test.book.load(test.form);
+        test.Show(2);
+        EXPECT_EQ(test.form.pool.optUserInput[1].Enabled(), offered) << progress;
     }
 }
 
