@@ -14,11 +14,11 @@
 
 namespace {
 
-constexpr std::int16_t kAnyIndex = -1;
+constexpr std::int16_t kAnyLink = -1;
 
 enum class Action { Run, Open, Topic, Browse, UseDefault };
 
-struct LinkRow {
+struct OwnLink {
     std::int16_t page;
     std::int16_t index;
     Action action;
@@ -31,10 +31,10 @@ constexpr wchar_t kLinkCheck[] = L"LinkCheck.chm";
 
 // The first row that fits decides.
 // clang-format off
-constexpr LinkRow kLinks[] = {
+constexpr OwnLink kLinks[] = {
     { 7, 0,         Action::Open,       kTutorial,               L""},
-    { 7, kAnyIndex, Action::Run,        kConfigProgram,          L" /Manager"},
-    { 8, kAnyIndex, Action::Run,        L"VLinkMgr.exe",         L""},
+    { 7, kAnyLink, Action::Run,        kConfigProgram,          L" /Manager"},
+    { 8, kAnyLink, Action::Run,        L"VLinkMgr.exe",         L""},
     { 9, 0,         Action::Browse,     L"",                     L""},
     { 9, 1,         Action::UseDefault, L"",                     L""},
     {11, 0,         Action::Open,       kSetupReference,         L""},
@@ -64,8 +64,8 @@ void BrowseForLocation(frmWizard& form) {
 } // namespace
 
 void FtwHyperlink(frmWizard& form, std::int16_t index) {
-    const auto row = std::find_if(std::begin(kLinks), std::end(kLinks), [&](const LinkRow& link) {
-        return link.page == form.PageNo && (link.index == kAnyIndex || link.index == index);
+    const auto row = std::find_if(std::begin(kLinks), std::end(kLinks), [&](const OwnLink& link) {
+        return link.page == form.PageNo && (link.index == kAnyLink || link.index == index);
     });
     if (row == std::end(kLinks)) return;
     switch (row->action) {
