@@ -240,15 +240,14 @@ void frmWizard::WriteHeading(std::wstring_view heading) {
     NotifyWinEvent(EVENT_SYSTEM_ALERT, picHeader.Handle(), OBJID_CLIENT, CHILDID_SELF);
 }
 
-void frmWizard::WriteInfo(std::wstring_view text) {
-    constexpr win::Twips kTallest = layout::kContentBottom - layout::kTextTop;
+void frmWizard::WriteInfo(std::wstring_view text, win::Twips tallest) {
     const Arrangement arrangement(*this, PageArea());
     win::FormattedText formatted(text);
     FormatInfo(formatted);
     txtInfo.SetText(formatted);
     const win::Twips needed = txtInfo.TextHeight();
-    txtInfo.ScrollBar(needed > kTallest);
-    txtInfo.Height(std::min(needed, kTallest));
+    txtInfo.ScrollBar(needed > tallest);
+    txtInfo.Height(std::min(needed, tallest));
 }
 
 RECT frmWizard::PageArea() const {

@@ -58,8 +58,9 @@ class frmWizard : public win::Form {
 
     // For page builders.
     void WriteHeading(std::wstring_view heading);
-    // The page's whole text with its mark-up; the text area becomes as high as the text needs.
-    void WriteInfo(std::wstring_view text);
+    // The page's whole text with its mark-up; the text area becomes as high as the text needs, at most
+    // `tallest`: beyond that the text scrolls.
+    void WriteInfo(std::wstring_view text, win::Twips tallest = layout::kContentBottom - layout::kTextTop);
 
     // Moving between pages: the only door.
     void cmdNext_Click();
