@@ -37,6 +37,6 @@ std::wstring TrimBlanks(std::wstring_view text);
 std::int32_t NumericValue(std::wstring_view text);
 
 // The receive file extension as typed by the user: blanks at both ends and then one leading "." are
-// dropped. Nothing when the rest is longer than 3 characters or holds a ".", a control character or one
-// that no name may hold. The empty extension is valid.
+// dropped. Nothing when the rest is longer than 3 characters or holds anything but A to Z, a to z and
+// digits. The empty extension is valid.
 std::optional<std::wstring> CheckedExtension(std::wstring_view typed);
