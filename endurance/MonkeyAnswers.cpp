@@ -4,8 +4,8 @@
 #include "app/Names.h"
 #include "app/modLocations.h"
 #include "ftw/FtwPages.h"
+#include "ndw/DcpFromAnswers.h"
 #include "ndw/NdwPages.h"
-#include "ndw/modDcp.h"
 #include "win/Handles.h"
 
 #include <algorithm>

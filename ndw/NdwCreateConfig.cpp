@@ -5,6 +5,7 @@
 #include "app/Names.h"
 #include "app/modLocations.h"
 #include "ndw/DcpFile.h"
+#include "ndw/DcpFromAnswers.h"
 #include "ndw/NdwPages.h"
 #include "ndw/modDcp.h"
 #include "shell/frmIcons.h"

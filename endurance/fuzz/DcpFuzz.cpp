@@ -1,5 +1,5 @@
 #include "endurance/fuzz/Fuzz.h"
-#include "ndw/modDcp.h"
+#include "ndw/DcpFromAnswers.h"
 
 namespace {
 
