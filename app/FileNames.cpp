@@ -39,7 +39,10 @@ bool EndsInDot(std::wstring_view name) { return !name.empty() && name.back() == 
 std::optional<std::wstring> CheckedExtension(std::wstring_view typed) {
     std::wstring extension = TrimBlanks(typed);
     if (extension.starts_with(L'.')) extension.erase(0, 1);
-    const bool valid = extension.size() <= kExtensionLength && IsValidName(extension) &&
-                       !HasControlChar(extension) && extension.find(L'.') == std::wstring::npos;
+    const auto isAllowed = [](wchar_t c) {
+        return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z') || (c >= L'0' && c <= L'9');
+    };
+    const bool valid =
+        extension.size() <= kExtensionLength && std::all_of(extension.begin(), extension.end(), isAllowed);
     return valid ? std::optional(extension) : std::nullopt;
 }

@@ -27,6 +27,6 @@ bool HasControlChar(std::wstring_view text);
 bool EndsInDot(std::wstring_view name);
 
 // The receive file extension as typed by the user: blanks at both ends and then one leading "." are
-// dropped. Nothing when the rest is longer than 3 characters or holds a ".", a control character or one
-// that no name may hold. The empty extension is valid.
+// dropped. Nothing when the rest is longer than 3 characters or holds anything but A to Z, a to z and
+// digits. The empty extension is valid.
 std::optional<std::wstring> CheckedExtension(std::wstring_view typed);

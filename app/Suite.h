@@ -32,9 +32,12 @@ inline constexpr wchar_t kHelpViewer[] = L"HH.exe"; // the system's own
 // ---- documents beside the wizard ----
 inline constexpr wchar_t kTutorial[] = L"QuickTour.chm"; // "Getting Started"
 inline constexpr wchar_t kLinkCheck[] = L"LinkCheck.chm";
+inline constexpr wchar_t kCommunication[] = L"Linkcheck.chm"; // the same, in the New Device Wizard
 inline constexpr wchar_t kCharacterCodes[] = L"CharCodes.chm";
 inline constexpr wchar_t kTechNotes[] = L"TechNotes.chm";
 inline constexpr wchar_t kSetupReference[] = L"Setup Reference.pdf";
+inline constexpr wchar_t kDeviceReference[] = L"Varnel DNC Setup Reference.PDF"; // on the first page of /NDW
+inline constexpr wchar_t kDeviceManual[] = L"Varnel DNC Setup Reference.pdf";    // the same, on the second
 inline constexpr wchar_t kOperatorGuide[] = L"Operator Guide.pdf";
 inline constexpr wchar_t kTourGuide[] = L"Quick Tour Guide.pdf";
 
@@ -54,5 +57,7 @@ inline constexpr wchar_t kPathsKey[] = L"Paths";                       // below 
 inline constexpr wchar_t kSettingsPathValue[] = L"SettingsPath";
 inline constexpr wchar_t kRunOnceKey[] = L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\RunOnce";
 inline constexpr wchar_t kRunOnceValue[] = L"Varnel_DNC_FTSW";
+inline constexpr wchar_t kSerialMapKey[] =
+    L"HARDWARE\\DEVICEMAP\\SERIALCOMM"; // the system's, of its COM ports
 
 } // namespace suite

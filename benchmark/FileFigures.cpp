@@ -5,8 +5,8 @@
 #include "benchmark/Table.h"
 #include "ftw/FtwPages.h"
 #include "ndw/DcpFile.h"
+#include "ndw/DcpFromAnswers.h"
 #include "ndw/NdwAnswers.h"
-#include "ndw/modDcp.h"
 #include "shell/frmIcons.h"
 #include "tools/driver/Clock.h"
 #include "wizard/frmWizard.h"
@@ -45,7 +45,7 @@ double DcpWrite(const std::wstring& path) {
     const double time = TimeOf([&] {
         SetDcpHeaderDefaults(dcpRecords.header);
         SetDcpRecord4Defaults(dcpRecords.record4);
-        FillDcpRecords(dcpRecords, NdwDefaultAnswers(), L"MILL.ico");
+        FillDcpRecords(dcpRecords, NdwAnswers(), L"MILL.ico");
         written = WriteDcpFile(path);
     });
     DeleteFileW(path.c_str());

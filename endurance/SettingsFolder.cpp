@@ -26,7 +26,8 @@ std::string MakeReference(const DemoSuite& suite) {
     return bytes;
 }
 
-// What the port page says behind each port: "COM3 - used by A, B, C and 4 more" gives A, B, C and 7.
+// What the port page says of each port that is in use: "COM3 is used by A, B, C and 4 more." gives A, B, C
+// and 7.
 struct Use {
     std::vector<std::wstring> names;
     std::size_t count = 0;
@@ -34,10 +35,12 @@ struct Use {
 
 Use UseIn(std::wstring text) {
     Use use;
-    const std::size_t more = text.find(L" and ");
-    if (more != std::wstring::npos) use.count = std::stoul(text.substr(more + 5));
-    text.resize(std::min(more, text.size()));
-    for (text += L", "; !text.empty(); text.erase(0, text.find(L", ") + 2))
+    const std::size_t last = text.rfind(L" and ");
+    const bool more = text.ends_with(L" more.");
+    if (more) use.count = std::stoul(text.substr(last + 5));
+    if (last != std::wstring::npos) text.replace(last, more ? text.npos : 5, more ? L"." : L", ");
+    text.back() = L',';
+    for (text += L' '; !text.empty(); text.erase(0, text.find(L", ") + 2))
         use.names.push_back(text.substr(0, text.find(L", ")));
     use.count += use.names.size();
     return use;
@@ -45,13 +48,19 @@ Use UseIn(std::wstring text) {
 
 std::map<int, Use> PortUses(const Walker& walker) {
     std::map<int, Use> uses;
-    for (HWND list : ControlsOf(walker.Main(), L"ComboBox"))
-        for (WPARAM i = 0; i < Ask(list, CB_GETCOUNT); ++i) {
-            std::wstring item(Ask(list, CB_GETLBTEXTLEN, i) + 1, L'\0');
-            item.resize(Ask(list, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(item.data())));
-            const std::size_t by = item.find(L"used by ");
-            if (by != std::wstring::npos) uses[static_cast<int>(i) + 1] = UseIn(item.substr(by + 8));
+    const HWND list = ControlsOf(walker.Main(), L"ComboBox").at(0);
+    for (WPARAM i = 0; i < Ask(list, CB_GETCOUNT); ++i) {
+        std::wstring item(Ask(list, CB_GETLBTEXTLEN, i) + 1, L'\0');
+        item.resize(Ask(list, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(item.data())));
+        if (!item.ends_with(L"in use")) continue;
+        Ask(list, CB_SETCURSEL, i);
+        Notify(list, CBN_SELCHANGE);
+        for (const HWND label : ControlsOf(walker.Main(), L"Static")) {
+            const std::wstring text = TextOf(label);
+            const std::size_t by = text.find(L" is used by ");
+            if (by != std::wstring::npos) uses[static_cast<int>(i) + 1] = UseIn(text.substr(by + 12));
         }
+    }
     return uses;
 }
 

@@ -11,8 +11,9 @@ void RefuseText(frmWizard& form, win::TextBox& box, const std::wstring& message)
 }
 
 void StoreFileText(frmWizard& form, win::TextBox& box, Move move, std::wstring& answer) {
+    // Whoever goes back is not held up: what cannot be stored is forgotten, and the answer stays as it was.
     const std::wstring typed = box.Text();
-    const auto foreign = FirstNotInAnsi(typed);
+    const auto foreign = FirstNotOneByte(typed);
     if (!foreign) {
         answer = typed;
     } else if (move == Move::Next && !form.StayOnPage) {

@@ -11,7 +11,7 @@ class TextBox;
 }
 class frmWizard;
 
-// Stores the box's text in `answer` when the code page holds it exactly. Otherwise nothing is stored: on
+// Stores the box's text in `answer` when each of its characters is one byte. Otherwise nothing is stored: on
 // Next the user is told which character it is and stays on the page, on Back the text is dropped.
 void StoreFileText(frmWizard& form, win::TextBox& box, Move move, std::wstring& answer);
 

@@ -2,22 +2,54 @@
 // format, flow control.
 
 #include "ndw/NdwPages.h"
-#include "ndw/PortNotes.h"
+#include "ndw/PortUse.h"
 #include "wizard/frmWizard.h"
+
+namespace {
+
+constexpr std::size_t kUsePrompt = 1; // the lines below the list of ports
+constexpr int kUseLines = 5;
+
+// Names may hold "&", which a label would take for the mark of an access key.
+std::wstring WithoutAccessKeys(std::wstring text) {
+    for (std::size_t i = 0; (i = text.find(L'&', i)) != std::wstring::npos; i += 2)
+        text.insert(i, 1, L'&');
+    return text;
+}
+
+void ShowPortUse(frmWizard& form) {
+    const int index = IndexOrZero(form.pool.cmbUserInput.Index());
+    const PortNote& note = ndwSession.ports.at(static_cast<std::size_t>(index));
+    form.pool.lblUserPrompt[kUsePrompt].Text(WithoutAccessKeys(PortUseText(index + 1, note)));
+}
+
+} // namespace
+
+// Anew each time: an adapter may have been plugged in.
+void PrepareNdwPort(frmWizard&) { ndwSession.ports = LookUpPorts(); }
 
 void PageNdwPort(frmWizard& form) {
     form.WriteHeading(L"COM Port");
-    form.WriteInfo(L"Choose the serial (COM) port that the CNC is connected to.\r\n\r\n"
-                   L"To see the ports of this computer, open Windows Device Manager and look under "
-                   L"<b>Ports (COM & LPT)</b>. USB/serial adapters are listed there too.");
+    // clang-format off
+    form.WriteInfo(
+        L"Choose the serial (COM) port that the CNC is connected to.\r\n\r\n"
+        L"<b>On this computer</b>: Windows has the port now. That of a USB adapter is there only while the adapter is plugged in.\r\n"
+        L"<b>In use</b>: another configuration uses the port already.\r\n"
+        L"See also <b>Ports (COM & LPT)</b> in Windows Device Manager.");
+    // clang-format on
     InputColumn column(form);
     column.Prompt(0, L"&COM port");
-    column.Width(layout::kTextWidth); // notes stand behind the numbers
     auto& ports = column.DropDown();
     ports.Clear();
-    for (const std::wstring& caption : PortCaptions())
-        ports.Add(caption);
+    int number = 0;
+    for (const PortNote& note : ndwSession.ports)
+        ports.Add(PortCaption(++number, note));
     ports.Index(ndwSession.answers.portIndex);
+    column.Width(layout::kTextWidth);
+    column.Prompt(kUsePrompt, L"", kUseLines);
+    ShowPortUse(form);
+    // Set last: filling the list is no change of the user's.
+    ports.onChange = [&form] { ShowPortUse(form); };
 }
 
 void LeaveNdwPort(frmWizard& form, Move) {
@@ -26,10 +58,11 @@ void LeaveNdwPort(frmWizard& form, Move) {
 
 void PageNdwBaud(frmWizard& form) {
     form.WriteHeading(L"Baud Rate");
+    // clang-format off
     form.WriteInfo(
         L"Choose the baud rate that is set in the CNC.\r\n\r\n"
-        L"It must be the same on both sides. If characters are lost or garbled, use a lower rate here "
-        L"and in the CNC.");
+        L"The CNC and this computer must use the same rate. If characters are lost or garbled, use a lower rate here and in the CNC.");
+    // clang-format on
     InputColumn column(form);
     column.Prompt(0, L"&Baud rate");
     column.DropDown(kBaudRates, ndwSession.answers.baudIndex);
@@ -41,10 +74,13 @@ void LeaveNdwBaud(frmWizard& form, Move) {
 
 void PageNdwDataFmt(frmWizard& form) {
     form.WriteHeading(L"Data Format");
-    form.WriteInfo(L"Choose the code that the CNC uses for programs.\r\n\r\n"
-                   L"<b>ISO</b>: 7 data bits with even parity, used by most CNCs.\r\n"
-                   L"<b>EIA-244</b>: EIA punched-tape code, used by some older CNCs.\r\n"
-                   L"<b>ASCII</b>: you choose data bits and parity on the next page.");
+    // clang-format off
+    form.WriteInfo(
+        L"Choose the code that the CNC uses for programs.\r\n\r\n"
+        L"<b>ISO</b>: 7 data bits with even parity, used by most CNCs.\r\n"
+        L"<b>EIA-244</b>: EIA punched-tape code, used by some older CNCs.\r\n"
+        L"<b>ASCII</b>: you choose data bits and parity on the next page.");
+    // clang-format on
     InputColumn(form).Options(kDataFormats, ndwSession.answers.dataFormatIndex);
 }
 
@@ -54,9 +90,11 @@ void LeaveNdwDataFmt(frmWizard& form, Move) {
 
 void PageNdwComFmt(frmWizard& form) {
     form.WriteHeading(L"ASCII Character Format");
+    // clang-format off
     form.WriteInfo(
         L"Choose the number of data bits and the parity that are set in the CNC.\r\n\r\n"
-        L"Both must be the same on both sides. 7 data bits with even parity is the most common setting.");
+        L"The CNC and this computer must use the same settings. 7 data bits with even parity is the most common setting.");
+    // clang-format on
     InputColumn(form).Options(kCharacterFormats, ndwSession.answers.characterFormatIndex);
 }
 
@@ -66,11 +104,11 @@ void LeaveNdwComFmt(frmWizard& form, Move) {
 
 void PageNdwFlow(frmWizard& form) {
     form.WriteHeading(L"Flow Control");
+    // clang-format off
     form.WriteInfo(
-        L"Flow control lets the CNC pause the computer while the CNC is busy, so that no characters are "
-        L"lost.\r\n\r\n"
-        L"<b>Software</b> uses the characters XON and XOFF (DC1 and DC3). <b>Hardware</b> uses the RTS and "
-        L"CTS wires and needs a cable that connects them.");
+        L"Flow control lets the CNC pause the computer while the CNC is busy, so that no characters are lost.\r\n\r\n"
+        L"<b>Software</b> uses the characters XON and XOFF (DC1 and DC3). <b>Hardware</b> uses the RTS and CTS wires and needs a cable that connects them.");
+    // clang-format on
     InputColumn(form).Options(kFlowControls, ndwSession.answers.flowControlIndex);
 }
 

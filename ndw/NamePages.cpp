@@ -5,9 +5,9 @@
 #include "app/modLocations.h"
 #include "ndw/NdwCreateConfig.h"
 #include "ndw/NdwPages.h"
+#include "ndw/Summary.h"
+#include "wizard/Markup.h"
 #include "wizard/frmWizard.h"
-
-#include <algorithm>
 
 namespace {
 
@@ -19,38 +19,39 @@ constexpr win::Twips kTallestFinalText = layout::kContentBottom - layout::kTextT
 
 void PageNdwIntroduction(frmWizard& form) {
     form.WriteHeading(L"New CNC Configuration");
+    // clang-format off
     form.WriteInfo(
-        L"This wizard creates a configuration file for one CNC machine tool.\r\n\r\n"
+        L"The New Device Wizard creates a configuration file for one CNC machine tool.\r\n\r\n"
         L"Each page asks for one setting. Have these ready:\r\n"
-        L"<u>the number of the COM port that the CNC cable is connected to</u>\r\n"
+        L"<u>the number of the COM port that leads to the CNC</u>\r\n"
         L"<u>the communication parameters of the CNC (baud rate, parity, flow control)</u>\r\n"
         L"<u>a name for the new configuration</u>\r\n\r\n"
-        L"If you do not know a setting, keep the value shown. You can change every setting later in Varnel "
-        L"DNC Configuration (VConfig).\r\n\r\n"
+        L"If you do not know a setting, keep the value shown. You can change every setting later in Varnel DNC Configuration (VConfig).\r\n\r\n"
         L"Click <b>Next</b> to continue.");
-    InputColumn(form).Link(0, L"Setup Reference manual");
+    // clang-format on
+    InputColumn(form).Links(kNdwLinks, form.PageNo);
 }
 
 void PageNdwIntro2(frmWizard& form) {
     form.WriteHeading(L"Before You Begin");
-    form.WriteInfo(L"The settings in this wizard must match the communication parameters of the CNC.\r\n\r\n"
-                   L"If this CNC has not been connected before:\r\n"
-                   L"<u>check that the cable is the right one for the control</u>\r\n"
-                   L"<u>test the connection with the terminal program</u>\r\n"
-                   L"<u>write down the communication parameters shown on the control</u>");
-    InputColumn column(form);
-    column.Link(0, L"Help: testing communication");
-    column.Link(1, L"Setup Reference manual");
-    column.Link(2, L"Varnel DNC Terminal (VTerminal)");
+    // clang-format off
+    form.WriteInfo(
+        L"The settings in this wizard must match the communication parameters of the CNC.\r\n\r\n"
+        L"If this CNC has not been connected before:\r\n"
+        L"<u>check that the cable is the right one for the control</u>\r\n"
+        L"<u>test the connection with the terminal program</u>\r\n"
+        L"<u>write down the communication parameters shown on the control</u>");
+    // clang-format on
+    InputColumn(form).Links(kNdwLinks, form.PageNo);
 }
 
 void PageNdwName(frmWizard& form) {
     form.WriteHeading(L"Configuration Name");
+    // clang-format off
     form.WriteInfo(
-        L"Type a name for the new configuration, for example the name or number of the machine.\r\n\r\n"
-        L"Do not use any of these characters: / \\ : * ? \" < > |\r\n\r\n" +
-        SummaryText(ndwSession.answers) +
-        L"\r\n\r\nClick <b>Create</b> to choose an icon and save the configuration.");
+        L"Check your answers, type a name and click <b>Create</b>. Then choose an icon; with <b>Cancel</b> the standard icon is used.\r\n\r\n" +
+        WithoutTags(SummaryText(ndwSession.answers)));
+    // clang-format on
     InputColumn column(form);
     column.Prompt(0, L"Configuration &name");
     column.TextBox(0, ndwSession.answers.name, kNameLimit).Focus();
@@ -68,23 +69,23 @@ void LeaveNdwName(frmWizard& form, Move move) {
 
 void PageNdwFinal(frmWizard& form) {
     form.WriteHeading(L"Finished");
-    const std::wstring next = startUp.ConfigLaunch
-                                  ? L"Click <b>Finish</b> to open it in Varnel DNC Configuration (VConfig)."
-                                  : L"Click <b>New</b> to create a configuration for another CNC.\r\n\r\n"
-                                    L"Click <b>Finish</b> to close this wizard.";
-    form.WriteInfo(L"The configuration <b>" + form.ConfigName +
-                   L"</b> has been created.\r\n\r\nIt is stored in the file " +
-                   ConfigurationFile(form.ConfigName) + L"\r\n\r\n" + next);
-    // With a name of very many letters the text scrolls, so that the links keep their place.
-    form.txtInfo.Height(std::min(form.txtInfo.Height(), kTallestFinalText));
-    InputColumn column(form);
-    column.Link(0, L"Open in Varnel DNC Configuration (VConfig)");
-    column.Link(1, L"Technical notes");
+    // clang-format off
+    const wchar_t* next = startUp.ConfigLaunch
+        ? L"Click <b>Finish</b> to open it in Varnel DNC Configuration (VConfig)."
+        : L"Click <b>New</b> to create a configuration for another CNC.\r\n\r\n"
+          L"Click <b>Finish</b> to close this wizard.";
+    form.WriteInfo(
+        L"The configuration <b>" + form.ConfigName + L"</b> has been created.\r\n\r\n"
+        L"It is stored in the file " + ConfigurationFile(form.ConfigName) + L"\r\n\r\n" +
+        next,
+        kTallestFinalText);
+    // clang-format on
+    InputColumn(form).Links(kNdwLinks, form.PageNo);
 }
 
 void LeaveNdwFinal(frmWizard& form, Move move) {
     if (move != Move::Next) return;
-    if (startUp.ConfigLaunch) RunProgram(L"VConfig.exe", L" " + form.ConfigName);
+    if (startUp.ConfigLaunch) RunProgram(suite::kConfigProgram, L" " + form.ConfigName);
     form.ConfirmExit = false;
     form.EndProgram();
 }

@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
-// What the user has answered on the pages of the New Device Wizard. An index counts the choices of a
-// page from 0; in a set, bit k stands for the k-th check box of its page. The pages fill these members,
-// modDcp makes a configuration file of them.
+// What the user has answered on the pages of the New Device Wizard, with the answers that it starts with.
+// An index counts the choices of a page from 0; in a set, bit k stands for the k-th check box of its page.
+// The pages fill these members, DcpFromAnswers makes records of them.
 struct NdwAnswers {
     std::int16_t portIndex = 0; // the port's number less 1
     std::int16_t baudIndex = 6;
@@ -22,13 +22,10 @@ struct NdwAnswers {
     std::int16_t receiveNamingIndex = 0;
     std::int16_t receiveTerminationIndex = 0;
     std::wstring removedLines;     // marks the lines to leave out; at most kCodesLength characters
-    std::wstring receivePrefix;    // at most kCodesLength characters
+    std::wstring receivePrefix;    // put in front of a received file's name; at most kCodesLength characters
     std::wstring receiveExtension; // as CheckedExtension gives it
     std::wstring name;             // of the configuration, as typed
 };
-
-// The answers that the wizard starts with.
-inline NdwAnswers NdwDefaultAnswers() { return {}; }
 
 // ---- what the pages offer, in the order of the stored values ----
 inline constexpr std::int16_t kPortCount = 256;
@@ -59,7 +56,7 @@ inline constexpr std::array<std::wstring_view, 4> kPrefixChoices = {
     L"End of block",
     L"% (percent sign)",
     L"End of block (after the %)",
-    L"DC2 (tape punch on)",
+    L"DC2 (tape punch on, Ctrl+R)",
 };
 inline constexpr std::array<std::wstring_view, 5> kSuffixChoices = {
     L"End of block",
@@ -84,11 +81,11 @@ inline constexpr std::array<std::wstring_view, 12> kReceiveNamings = {
     L"O number: O and 4 digits (O1234)",
     L"O number line: text in ( )",
     L"O number line: whole line from the O",
-    L": number, 4 digits (:1234)",
-    L": number, 4 digits, with a prefix of your own",
-    L": number, rest of the line",
-    L"$ line: name up to the . ($NAME.)",
-    L"$ line: name up to the ., extension MIN ($NAME.MIN)",
+    L"Colon number: 4 digits (:1234)",
+    L"Colon number: 4 digits, with a beginning of your own",
+    L"Colon number: rest of the line",
+    L"$ line: name before the dot ($NAME.)",
+    L"$ line: name before the dot, extension MIN",
     L"%MPF line: 4 characters from position 25",
     L"% line: text in ( ) on the next line",
     L"% line: whole next line",
@@ -116,10 +113,10 @@ bool SendsLf(const NdwAnswers& answers);
 std::wstring PrefixCodes(const NdwAnswers& answers);
 std::wstring SuffixCodes(const NdwAnswers& answers);
 
-// Whether all of `codes` will be stored. Otherwise the first kCodesLength characters are.
+// Whether all of `codes` will be stored. Otherwise the first kCodesLength characters are, which leaves the
+// caret of the last code: the choices make one character more than fits, never two.
 bool CodesFit(std::wstring_view codes);
 std::wstring StoredCodes(std::wstring_view codes);
 
-// The answers in four short lines with CR LF between them, for a last look before the file is made. Codes
-// are shown as they will be stored. An index that no page offers shows as "?".
-std::wstring SummaryText(const NdwAnswers& answers);
+// The code that is cut in half, "^R"; empty when all of `codes` fit.
+std::wstring CutCode(std::wstring_view codes);

@@ -6,10 +6,13 @@
 #include "app/Files.h"
 #include "app/modLocations.h"
 #include "ndw/DcpFile.h"
+#include "ndw/DcpFromAnswers.h"
 #include "ndw/NdwPages.h"
 #include "ndw/modDcp.h"
 #include "shell/frmIcons.h"
 #include "wizard/frmWizard.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -24,11 +27,24 @@ std::wstring InvalidCharactersMessage() {
     return L"The name you specified contains one or more\r\nof the following invalid characters:\r\n" + list;
 }
 
+// The place of a path among this run's failed files; the end when it is none of them.
+auto FailedFile(const std::wstring& path) {
+    auto& failed = ndwSession.failedFiles;
+    return std::find_if(failed.begin(), failed.end(),
+                        [&](const auto& other) { return lstrcmpiW(path.c_str(), other.c_str()) == 0; });
+}
+
 // This run's own file that could not be written whole may be tried again under its name. A device, which
 // the system lists as a file in every folder, is refused by its own words.
 bool IsUsed(const std::wstring& name, const std::wstring& path) {
-    return FileExists(path) && !IsReservedName(name) &&
-           lstrcmpiW(path.c_str(), ndwSession.failedFile.c_str()) != 0;
+    return FileExists(path) && !IsReservedName(name) && FailedFile(path) == ndwSession.failedFiles.end();
+}
+
+std::wstring TooLongMessage(std::size_t excess, std::size_t length) {
+    std::wstring message = L"The name you specified is too long.";
+    if (excess < length)
+        message += L"\r\nIt may have up to " + std::to_wstring(length - excess) + L" characters.";
+    return message;
 }
 
 // What is wrong with a name, "" when nothing is. The last checks keep the file from going to a port or
@@ -46,18 +62,23 @@ std::wstring NameProblem(const std::wstring& name, const std::wstring& path) {
     if (const auto foreign = FirstNotInAnsi(name))
         return L"The name you specified contains the character \"" + *foreign +
                L"\", which Varnel DNC cannot store." + kTryAgain;
-    if (path.size() > kLongestPath) return std::wstring(L"The name you specified is too long.") + kTryAgain;
+    if (path.size() > kLongestPath)
+        return TooLongMessage(path.size() - kLongestPath, name.size()) + kTryAgain;
     return {};
 }
 
 // The write itself, told when it fails.
 bool Write(frmWizard& form, const std::wstring& path) {
-    const bool failed = !WriteDcpFile(path);
-    ndwSession.failedFile = failed ? path : std::wstring();
-    if (failed)
-        win::ShowMessageBox(form.Hwnd(), L"The configuration file could not be written:\r\n" + path,
-                            MB_OK | MB_ICONEXCLAMATION);
-    return !failed;
+    auto& failedFiles = ndwSession.failedFiles;
+    const auto before = FailedFile(path);
+    if (WriteDcpFile(path)) {
+        if (before != failedFiles.end()) failedFiles.erase(before);
+        return true;
+    }
+    if (before == failedFiles.end()) failedFiles.push_back(path);
+    win::ShowMessageBox(form.Hwnd(), L"The configuration file could not be written:\r\n" + path,
+                        MB_OK | MB_ICONEXCLAMATION);
+    return false;
 }
 
 } // namespace
@@ -66,7 +87,7 @@ void NdwCreateConfig(frmWizard& form) {
     const std::wstring name = TrimBlanks(ndwSession.answers.name);
     const std::wstring path = ConfigurationFile(name);
     const std::wstring problem = NameProblem(name, path);
-    form.StayOnPage = true;
+    form.StayOnPage = true; // until the file is there, and so also after an error on the way
     if (!problem.empty()) {
         win::ShowMessageBox(form.Hwnd(), problem, MB_OK | MB_ICONEXCLAMATION);
         return;

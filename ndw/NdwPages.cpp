@@ -27,10 +27,11 @@ void BeforeShow(frmWizard& form) {
 bool TakesOverNext(frmWizard&) { return false; }
 
 // The user has closed the wizard after making a configuration for VConfig: hand it over all the same. The
-// path has a second backslash here, as in every version of the suite.
+// second backslash in the path makes no difference to the system.
 void Exiting(frmWizard& form) {
     if (startUp.ConfigLaunch && form.ConfigWritten)
-        RunCommandLine(L"\"" + locations.ProgramFolder + L"\\VConfig.exe\" " + form.ConfigName);
+        RunCommandLine(L"\"" + locations.ProgramFolder + L"\\" + suite::kConfigProgram + L"\" " +
+                       form.ConfigName);
 }
 
 constexpr PageBook kBook{
@@ -52,6 +53,12 @@ constexpr PageBook kBook{
 
 const PageBook& NdwBook() { return kBook; }
 
-void NdwSetDefaults() { ndwSession = {NdwDefaultAnswers(), {}}; }
+void NdwSetDefaults() { ndwSession = {}; }
+
+void NdwHyperlink(frmWizard& form, std::int16_t index) {
+    const LinkRow* link = FindLink(kNdwLinks, form.PageNo, index);
+    if (!link || StartLink(*link)) return;
+    RunProgram(link->file, L" " + form.ConfigName); // RunWithConfig, the one action left in the table
+}
 
 bool LeavesOutCharacterFormat() { return ndwSession.answers.dataFormatIndex != kAsciiDataFormat; }

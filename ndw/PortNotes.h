@@ -1,24 +1,18 @@
 #pragma once
 
-// What is known of the serial ports: which ones this computer has and which other configurations use. A
-// help for the user's choice, never a bar.
-
-#include <windows.h>
-
-#include <map>
-#include <set>
 #include <string>
 #include <vector>
 
-// Port numbers of the computer's serial device map: the values below `subKey` of `root` that read "COMn".
-std::set<int> PortsOfComputer(HKEY root, const wchar_t* subKey);
+// What is known of one serial port, and how the port page says it. A help for the user's choice, never a
+// bar.
+struct PortNote {
+    bool onComputer = false;                  // the computer has the port at present
+    std::vector<std::wstring> configurations; // names of those that use it
+};
 
-// Port number to the names of the configurations in `folder` (ends in a backslash) that use it. Files of
-// another length or signature, locked ones and folders are passed over. Reading stops after `time`
-// milliseconds; what was not read by then is missing.
-inline constexpr unsigned kReadingTime_ms = 200;
-std::map<int, std::vector<std::wstring>> PortsInUse(const std::wstring& folder,
-                                                    unsigned time = kReadingTime_ms);
+// As the port is listed: "COM3", "COM3 - on this computer", "COM3 - in use" or both.
+std::wstring PortCaption(int number, const PortNote& note);
 
-// "COM1" to "COM256" with their notes, for this computer and the suite's settings folder.
-std::vector<std::wstring> PortCaptions();
+// "COM3 is used by GRINDER 1, LATHE 2, MILL 05 and 2 more."; empty when no configuration uses the port. At
+// most three names; one of more than 24 characters is cut and ends in "…".
+std::wstring PortUseText(int number, const PortNote& note);

@@ -9,7 +9,7 @@ namespace {
 
 using namespace win::literals;
 
-constexpr int kExtensionLimit = 3;
+constexpr int kExtensionLimit = 1 + static_cast<int>(kExtensionLength); // it may be typed with its dot
 constexpr win::Twips kNamingListHeight = 1080_tw;
 constexpr win::Twips kExtensionLeft = layout::kTextLeft + 2400_tw;
 constexpr win::Twips kShortBoxWidth = 2100_tw;
@@ -17,12 +17,13 @@ constexpr win::Twips kShortBoxWidth = 2100_tw;
 } // namespace
 
 void PageNdwRxName(frmWizard& form) {
-    form.pool.SetInputFont(true);
+    form.pool.SetInputFont(true); // until the page is left
     form.WriteHeading(L"Receive File Name");
+    // clang-format off
     form.WriteInfo(
         L"Choose how Varnel DNC names a file that the CNC sends.\r\n\r\n"
-        L"The prefix is put in front of the name. The extension is only checked here: set it in Varnel DNC "
-        L"Configuration (VConfig), which stores it.");
+        L"A beginning of your own is put in front of that name. The extension is only checked here: set it in Varnel DNC Configuration (VConfig), which stores it.");
+    // clang-format on
     InputColumn column(form);
     column.Width(layout::kTextWidth);
     column.Prompt(0, L"&Take the name from");
@@ -30,9 +31,10 @@ void PageNdwRxName(frmWizard& form) {
     formats.Fill({std::begin(kReceiveNamings), std::end(kReceiveNamings)});
     formats.Index(ndwSession.answers.receiveNamingIndex);
 
+    // Two boxes side by side.
     const win::Twips row = column.Top();
     column.Width(kShortBoxWidth);
-    column.Prompt(1, L"Name &prefix");
+    column.Prompt(1, L"Name &begins with");
     column.TextBox(0, ndwSession.answers.receivePrefix, static_cast<int>(kCodesLength));
     column.Top(row);
     column.Left(kExtensionLeft);
@@ -48,16 +50,19 @@ void LeaveNdwRxName(frmWizard& form, Move move) {
     if (const auto extension = CheckedExtension(box.Text()))
         answers.receiveExtension = *extension;
     else if (move == Move::Next && !form.StayOnPage)
-        RefuseText(form, box, L"The file extension you specified is not valid.");
+        RefuseText(form, box,
+                   L"The file extension you specified is not valid.\r\n\r\n"
+                   L"Type up to 3 letters (A to Z) or digits, without blanks and other signs.");
     if (!form.StayOnPage) form.pool.SetInputFont(false);
 }
 
 void PageNdwRxTerm(frmWizard& form) {
     form.WriteHeading(L"End of Reception");
+    // clang-format off
     form.WriteInfo(
         L"Choose how Varnel DNC knows that the CNC has finished sending.\r\n\r\n"
-        L"With a time-out, the file is closed when no character has arrived for the time shown. Use 30 "
-        L"seconds for a CNC that pauses while it sends.");
+        L"With a time-out, the file is closed when no character has arrived for the time shown. Use 30 seconds for a CNC that pauses while it sends.");
+    // clang-format on
     InputColumn(form).Options(kReceiveTerminations, ndwSession.answers.receiveTerminationIndex);
 }
 

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr std::size_t kCodesPrompt = 0; // the line that shows the codes
+constexpr std::size_t kCodesPrompt = 0; // the lines that show the codes
 constexpr int kCodesLines = 2;
 
 using CodesOf = std::wstring (*)(const NdwAnswers&);
@@ -17,9 +17,10 @@ using Choice = std::int16_t NdwAnswers::*;
 
 void ShowCodes(frmWizard& form, CodesOf codesOf) {
     const std::wstring codes = codesOf(ndwSession.answers);
-    std::wstring line = L"Codes stored: " + (codes.empty() ? L"none" : StoredCodes(codes));
-    if (!CodesFit(codes)) line += L"\r\nOnly the first 10 characters fit; " + codes + L" is cut.";
-    form.pool.lblUserPrompt[kCodesPrompt].Text(line);
+    std::wstring text = L"Codes stored: " + (codes.empty() ? L"none" : StoredCodes(codes));
+    if (!CodesFit(codes))
+        text += L"\r\nOnly 10 characters fit: the last code, " + CutCode(codes) + L", is cut in half.";
+    form.pool.lblUserPrompt[kCodesPrompt].Text(text);
 }
 
 // Check boxes, below them the codes that they make, kept up to date, and the help link.
@@ -36,17 +37,18 @@ void BuildCodesPage(frmWizard& form, std::span<const std::wstring_view> captions
     column.Width(layout::kTextWidth);
     column.Prompt(kCodesPrompt, L"", kCodesLines);
     ShowCodes(form, codesOf);
-    column.Link(0, L"Help: character codes");
+    column.Links(kNdwLinks, form.PageNo);
 }
 
 } // namespace
 
 void PageNdwEOB(frmWizard& form) {
     form.WriteHeading(L"End of Block");
+    // clang-format off
     form.WriteInfo(
         L"Choose the characters that end each block (line) of a program sent to the CNC.\r\n\r\n"
-        L"CR is carriage return, LF is line feed. <b>CR + LF</b> suits many CNCs; if the CNC shows an "
-        L"empty block after every block, try <b>LF Only</b>.");
+        L"CR is carriage return, LF is line feed. <b>CR + LF</b> suits many CNCs; if the CNC shows an empty block after every block, try <b>LF Only</b>.");
+    // clang-format on
     InputColumn(form).Options(kEndOfBlocks, ndwSession.answers.endOfBlockIndex);
 }
 
@@ -56,10 +58,11 @@ void LeaveNdwEOB(frmWizard& form, Move) {
 
 void PageNdwPrefix(frmWizard& form) {
     form.WriteHeading(L"Transmit Prefix");
+    // clang-format off
     form.WriteInfo(
         L"Choose the codes that Varnel DNC sends before a program, in the order shown.\r\n\r\n"
-        L"Most CNCs expect <b>%</b> with an end of block before or after it. The CNC's manual shows what "
-        L"it needs.");
+        L"Most CNCs expect <b>%</b> with an end of block before or after it. The CNC's manual shows what it needs. (^M stands for CR, ^J for LF.)");
+    // clang-format on
     BuildCodesPage(form, kPrefixChoices, &NdwAnswers::prefixChoice, PrefixCodes);
 }
 
@@ -69,8 +72,11 @@ void LeaveNdwPrefix(frmWizard& form, Move) {
 
 void PageNdwSuffix(frmWizard& form) {
     form.WriteHeading(L"Transmit Suffix");
-    form.WriteInfo(L"Choose the codes that Varnel DNC sends after a program, in the order shown.\r\n\r\n"
-                   L"Many CNCs take <b>%</b> as the end of the program.");
+    // clang-format off
+    form.WriteInfo(
+        L"Choose the codes that Varnel DNC sends after a program, in the order shown.\r\n\r\n"
+        L"Many CNCs take <b>%</b> as the end of the program. (^M stands for CR, ^J for LF.)");
+    // clang-format on
     BuildCodesPage(form, kSuffixChoices, &NdwAnswers::suffixChoice, SuffixCodes);
 }
 
@@ -80,10 +86,11 @@ void LeaveNdwSuffix(frmWizard& form, Move) {
 
 void PageNdwFiltLines(frmWizard& form) {
     form.WriteHeading(L"Line Removal");
+    // clang-format off
     form.WriteInfo(
         L"Varnel DNC can leave out certain lines when it sends a program to the CNC.\r\n\r\n"
-        L"Type the character or text (up to 10 characters) that marks these lines. Leave the box empty to "
-        L"send every line.");
+        L"Type the character or text (up to 10 characters) that marks these lines. Leave the box empty to send every line.");
+    // clang-format on
     InputColumn column(form);
     column.Prompt(0, L"&Remove lines marked with");
     column.TextBox(0, ndwSession.answers.removedLines, static_cast<int>(kCodesLength)).Focus();
@@ -95,10 +102,11 @@ void LeaveNdwFiltLines(frmWizard& form, Move move) {
 
 void PageNdwFiltOpts(frmWizard& form) {
     form.WriteHeading(L"Filter Options");
+    // clang-format off
     form.WriteInfo(
         L"Choose what Varnel DNC removes or changes while it sends a program.\r\n\r\n"
-        L"If you are not sure, leave all options off. Try a new setting with a short program first, and "
-        L"check what arrives in the CNC.");
+        L"If you are not sure, leave all options off. Try a new setting with a short program first, and check what arrives at the CNC.");
+    // clang-format on
     InputColumn(form).Checks(kFilterOptions, ndwSession.answers.filterOptions);
 }
 
@@ -108,9 +116,11 @@ void LeaveNdwFiltOpts(frmWizard& form, Move) {
 
 void PageNdwTxTrigger(frmWizard& form) {
     form.WriteHeading(L"Transmit Trigger");
+    // clang-format off
     form.WriteInfo(
         L"Choose what starts the transmission after you tell Varnel DNC to send a program.\r\n\r\n"
         L"With software flow control the CNC usually sends XON (DC1) when it is ready to receive.");
+    // clang-format on
     InputColumn(form).Options(kTransmitTriggers, ndwSession.answers.transmitTriggerIndex);
 }
 

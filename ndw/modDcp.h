@@ -1,7 +1,6 @@
 #pragma once
 
 #include "ndw/FixedText.h"
-#include "ndw/NdwAnswers.h"
 
 #include <array>
 #include <cstddef>
@@ -12,7 +11,8 @@
 
 // A device configuration file (.DCP) in memory: four records without padding, described in
 // docs/dcp-format.md. Fields whose meaning only the programs that read the file know are named by their
-// offset. Flags are -1 or 0. Texts hold code 0 until they are assigned, and are written so.
+// offset. Flags are -1 or 0. A text holds code 0 until it is assigned; one that never is becomes zero bytes
+// in the file.
 
 inline constexpr wchar_t kDcpSignature[] = L"VDNCW32A ";
 inline constexpr wchar_t kEndOfFileMarker[] = L"\x1A"; // where text viewers stop
@@ -27,7 +27,7 @@ struct DcpHeader {
     std::int16_t unknown72 = 0;
     FixedText<10> unknown74;
     FixedText<30> unknown84;
-    FixedText<64> iconName;      // file name of the icon, or the default's name
+    FixedText<64> iconName;      // file name of the icon with its extension; "Varnel" for the standard icon
     std::int16_t portNumber = 0; // 1 is COM1
     std::int16_t unknown180 = 0;
     std::int16_t unknown182 = 0;
@@ -71,7 +71,7 @@ struct DcpHeader {
     std::int16_t unknown507 = 0;
     std::int16_t unknown509 = 0;
     std::int16_t unknown511 = 0;
-    std::int16_t transmitTrigger = 0; // kTriggerCodes in modDcp.cpp
+    std::int16_t transmitTrigger = 0; // kTriggerCodes in DcpFromAnswers.cpp
     std::int16_t unknown515 = 0;
     std::int16_t unknown517 = 0;
     std::int16_t unknown519 = 0;
@@ -86,7 +86,7 @@ struct DcpHeader {
     FixedText<256> unknown821;
     std::int16_t unknown1077 = 0;
     std::int16_t namesReceived = 0; // a flag
-    FixedText<10> namingMarker;     // kNamingFormats in modDcp.cpp, as the next three
+    FixedText<10> namingMarker;     // kNamingFormats in DcpFromAnswers.cpp, as the next three
     std::int16_t namingLine = 0;
     FixedText<10> namingStart;
     FixedText<2> namingEnd;
@@ -150,10 +150,6 @@ extern DcpRecords dcpRecords;
 // Give every field that has a default its default, and leave the others as they are.
 void SetDcpHeaderDefaults(DcpHeader& header);
 void SetDcpRecord4Defaults(DcpRecord4& record);
-
-// Stores the answers in records that hold the defaults. An empty `iconName` keeps the default icon, an
-// index that no page offers the default of its field. Texts that are too long are cut.
-void FillDcpRecords(DcpRecords& records, const NdwAnswers& answers, std::wstring_view iconName);
 
 // The last touch before the records become bytes: the end-of-file marker, and the copy of the header's
 // `removedLines` in record 2.

@@ -4,6 +4,7 @@
 #include "win/Form.h"
 #include "win/Screen.h"
 
+#include <commctrl.h>
 #include <oleacc.h>
 
 #include <algorithm>
@@ -189,6 +190,18 @@ std::wstring ListBox::Item(int index) {
 }
 
 int ListBox::SelectedCount() { return std::max(0, static_cast<int>(Send(LB_GETSELCOUNT))); }
+
+void ComboBox::Made() {
+    constexpr WPARAM kOpenRows = 12; // the system would open 30, more than a small screen has room for
+    Send(CB_SETMINVISIBLE, kOpenRows);
+    InterceptMessages();
+}
+
+bool ComboBox::OnMessage(UINT message, WPARAM, LPARAM, LRESULT& result) {
+    if (message != WM_MOUSEWHEEL || GetFocus() == Handle() || Send(CB_GETDROPPEDSTATE)) return false;
+    result = 0;
+    return true;
+}
 
 void ComboBox::Add(std::wstring_view item) {
     Send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(std::wstring(item).c_str()));

@@ -66,7 +66,8 @@ class Control {
         return SendMessageW(Handle(), message, wParam, lParam);
     }
 
-    std::function<void()> onClick; // BN_CLICKED; the second half of a double click is no click
+    std::function<void()> onClick;  // BN_CLICKED; the second half of a double click is no click
+    std::function<void()> onChange; // of a ComboBox: another item is selected, or its list was closed
 
   protected:
     virtual void Made() {} // the window has just been made
@@ -136,12 +137,17 @@ class ListBox : public Control {
     int SelectedCount(); // multiple selection only
 };
 
+// A drop-down list. The wheel turns it only while it has the focus or is open, not in passing.
 class ComboBox : public Control {
   public:
     void Clear() { Send(CB_RESETCONTENT); }
     void Add(std::wstring_view item);
     int Index() { return static_cast<int>(Send(CB_GETCURSEL)); } // -1: none
     void Index(int index) { Send(CB_SETCURSEL, static_cast<WPARAM>(index)); }
+
+  protected:
+    void Made() override;
+    bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
 };
 
 std::wstring WindowText(HWND window);

@@ -215,6 +215,8 @@ LRESULT Form::OnCommand(WPARAM wParam, LPARAM lParam) {
         if (LOWORD(wParam) == IDCANCEL) OnEscape();
     } else if (HIWORD(wParam) == BN_CLICKED && control->onClick) {
         control->onClick();
+    } else if ((HIWORD(wParam) == CBN_SELCHANGE || HIWORD(wParam) == CBN_CLOSEUP) && control->onChange) {
+        control->onChange();
     }
     return 0;
 }

@@ -129,6 +129,7 @@ win::ListBox& InputColumn::List(std::size_t index, win::Twips height) {
 
 win::ComboBox& InputColumn::DropDown() {
     auto& combo = form_.pool.cmbUserInput;
+    combo.onChange = nullptr; // of another page
     const win::Twips top = top_;
     Put(combo, width_, layout::kDropDownHeight, win::Twips{});
     top_ = top + layout::kTextBoxHeight + layout::kGapBetweenGroups; // closed, it is one line high

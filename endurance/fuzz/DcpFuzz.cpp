@@ -1,5 +1,6 @@
 #include "endurance/fuzz/Fuzz.h"
-#include "ndw/modDcp.h"
+#include "ndw/DcpFromAnswers.h"
+#include "ndw/Summary.h"
 
 namespace {
 

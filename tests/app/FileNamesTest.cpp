@@ -38,7 +38,7 @@ TEST(FileNames, CheckedExtension) {
     // clang-format off
     const std::pair<std::wstring_view, std::optional<std::wstring>> rows[] = {
         {L"", L""},      {L"  ", L""},  {L".", L""},      {L"nc", L"nc"}, {L" .NC ", L"NC"}, {L".MIN", L"MIN"},
-        {L"MINI", {}},   {L"..x", {}},  {L"a.b", {}},     {L"a*", {}},    {L"a\t", {}},
+        {L".tap", L"tap"}, {L"Az9", L"Az9"}, {L"MINI", {}}, {L"..x", {}}, {L"a b", {}}, {L"a*", {}}, {L"\u00e4", {}},
     };
     // clang-format on
     for (const auto& [typed, result] : rows)

@@ -1,5 +1,4 @@
 #include "ndw/NdwAnswers.h"
-#include "ndw/PortUse.h"
 
 #include <gtest/gtest.h>
 
@@ -7,19 +6,19 @@ TEST(NdwAnswers, Codes) {
     struct Row {
         std::int16_t endOfBlock, prefix, suffix;
         std::wstring_view prefixCodes, suffixCodes;
-        bool fit;
+        std::wstring_view cut; // codes, one behind the other
     };
     // clang-format off
     const Row rows[] = {
-        {0,  0,  0, L"",              L"",               true },
-        {0,  1,  1, L"^M^J",          L"^M^J",           true },
-        {1,  2,  2, L"%",             L"%",              true },
-        {1,  4,  4, L"^J",            L"^D",             true },
-        {2,  8,  8, L"^R",            L"^T",             true },
-        {0,  0, 16, L"",              L"^Z",             true },
-        {0, 15, 31, L"^M^J%^M^J^R",   L"^M^J%^D^T^Z",    false},
-        {1, 15, 31, L"^J%^J^R",       L"^J%^D^T^Z",      true },
-        {2, 13, 29, L"^M^M^R",        L"^M^D^T^Z",       true },
+        {0,  0,  0, L"",              L"",               L""    },
+        {0,  1,  1, L"^M^J",          L"^M^J",           L""    },
+        {1,  2,  2, L"%",             L"%",              L""    },
+        {1,  4,  4, L"^J",            L"^D",             L""    },
+        {2,  8,  8, L"^R",            L"^T",             L""    },
+        {0,  0, 16, L"",              L"^Z",             L""    },
+        {0, 15, 31, L"^M^J%^M^J^R",   L"^M^J%^D^T^Z",    L"^R^Z"},
+        {1, 15, 31, L"^J%^J^R",       L"^J%^D^T^Z",      L""    },
+        {2, 13, 29, L"^M^M^R",        L"^M^D^T^Z",       L""    },
     };
     // clang-format on
     for (const Row& row : rows) {
@@ -29,31 +28,9 @@ TEST(NdwAnswers, Codes) {
         answers.suffixChoice = row.suffix;
         EXPECT_EQ(PrefixCodes(answers), row.prefixCodes);
         EXPECT_EQ(SuffixCodes(answers), row.suffixCodes);
-        EXPECT_EQ(CodesFit(row.prefixCodes) && CodesFit(row.suffixCodes), row.fit);
+        EXPECT_EQ(CutCode(row.prefixCodes) + CutCode(row.suffixCodes), row.cut);
     }
     EXPECT_EQ(StoredCodes(L"^M^J%^M^J^R"), L"^M^J%^M^J^");
     EXPECT_TRUE(CodesFit(L"0123456789"));
-}
-
-TEST(NdwAnswers, Summary) {
-    NdwAnswers answers;
-    EXPECT_EQ(SummaryText(answers), L"COM1, 4800 baud, ISO\r\n"
-                                    L"Flow control: Software (XON/XOFF); end of block: CR + LF\r\n"
-                                    L"Prefix: none; suffix: none\r\n"
-                                    L"File name: O number: O and 4 digits (O1234)");
-    answers.characterFormatIndex = 5;
-    answers.dataFormatIndex = 2;
-    answers.flowControlIndex = -1;
-    answers.prefixChoice = 15;
-    answers.receiveNamingIndex = 12;
-    EXPECT_EQ(SummaryText(answers), L"COM1, 4800 baud, ASCII (8 data bits, odd parity)\r\n"
-                                    L"Flow control: ?; end of block: CR + LF\r\n"
-                                    L"Prefix: ^M^J%^M^J^; suffix: none\r\n"
-                                    L"File name: ?");
-}
-
-TEST(PortUse, Captions) {
-    EXPECT_EQ(PortCaption(256, true, L""), L"COM256 - on this computer");
-    EXPECT_EQ(PortCaption(3, false, L"LATHE2"), L"COM3 - used by LATHE2");
-    EXPECT_EQ(PortCaption(3, true, L"LATHE2, Mill 1"), L"COM3 - on this computer, used by LATHE2, Mill 1");
+    EXPECT_FALSE(CodesFit(L"0123456789A"));
 }

@@ -1,12 +1,10 @@
 #include "ndw/modDcp.h"
 
 #include "tests/ndw/DcpByHand.h"
-#include "tests/support/Generator.h"
 
 #include <gtest/gtest.h>
 
-#include <memory>
-#include <vector>
+#include <string>
 
 namespace {
 
@@ -21,21 +19,7 @@ std::span<const unsigned char> AsBytes(const std::string& text) {
     return {reinterpret_cast<const unsigned char*>(text.data()), text.size()};
 }
 
-std::string Created(const NdwAnswers& answers, std::wstring_view iconName) {
-    const auto records = std::make_unique<DcpRecords>();
-    SetDcpHeaderDefaults(records->header);
-    SetDcpRecord4Defaults(records->record4);
-    FillDcpRecords(*records, answers, iconName);
-    PrepareForWriting(*records);
-    return AsText(*records);
-}
-
 } // namespace
-
-TEST(modDcp, StartingAnswers) {
-    ASSERT_EQ(DcpByHand().Bytes().size(), 5449u);
-    ExpectBytes(Created(NdwDefaultAnswers(), L""), DcpByHand().Bytes());
-}
 
 TEST(modDcp, DefaultsWithoutAnswers) {
     DcpRecords records;
@@ -45,73 +29,6 @@ TEST(modDcp, DefaultsWithoutAnswers) {
     const DcpByHand expected("184 07, 196 07, 210 00 00, 240 '^J', 250 '%', 497 01, 1079 00 00, 1103 '  ', "
                              "1165 00 00 00 00 00 00 00 00 00 00");
     ExpectBytes(AsText(records), expected.Bytes());
-}
-
-TEST(modDcp, EachAnswerHasItsPlace) {
-    struct Row {
-        std::int16_t NdwAnswers::*answer;
-        std::int16_t value;
-        const char* places;
-    };
-    using A = NdwAnswers;
-    // clang-format off
-    const Row rows[] = {
-        {&A::portIndex,             255, "178 00 01"},
-        {&A::baudIndex,              11, "184 0B 00, 196 0B 00"},
-        {&A::dataFormatIndex,         2, "194 02 00, 206 02 00"},
-        {&A::characterFormatIndex,    0, "186 00 00 00 00, 198 00 00 00 00"},
-        {&A::characterFormatIndex,    1, "186 00 00 01 00, 198 00 00 01 00"},
-        {&A::characterFormatIndex,    5, "186 02 00 01 00, 198 02 00 01 00"},
-        {&A::flowControlIndex,        2, "192 02 00, 204 02 00"},
-        {&A::endOfBlockIndex,         1, "208 FF FF 00 00"},
-        {&A::endOfBlockIndex,         2, "208 00 00 FF FF"},
-        {&A::prefixChoice,           15, "240 '^M^J%^M^J^'"},
-        {&A::prefixChoice,           10, "240 '%^R       '"},
-        {&A::suffixChoice,           31, "250 '^M^J%^D^T^'"},
-        {&A::suffixChoice,           20, "250 '^D^Z      '"},
-        {&A::filterOptions,           1, "501 01 00"},
-        {&A::filterOptions,           2, "497 03 00"},
-        {&A::filterOptions,           4, "496 '1'"},
-        {&A::filterOptions,           8, "499 FF FF"},
-        {&A::filterOptions,          15, "496 '1' 03 00 FF FF 01 00"},
-        {&A::transmitTriggerIndex,    0, "513 FF FF"},
-        {&A::transmitTriggerIndex,    1, "513 FD FF"},
-        {&A::transmitTriggerIndex,    3, "513 FE FF"},
-        {&A::transmitTriggerIndex,    4, "513 11 00"},
-        {&A::receiveNamingIndex,      1, "1081 'O         ' 01 00 '(         ) '"},
-        {&A::receiveNamingIndex,      2, "1081 'O         ' 01 00 '1           '"},
-        {&A::receiveNamingIndex,      3, "1081 ':         ' 01 00 '2         4 '"},
-        {&A::receiveNamingIndex,      4, "1081 ':         ' 01 00 '2         4 '"},
-        {&A::receiveNamingIndex,      5, "1081 ':         ' 01 00 '2           '"},
-        {&A::receiveNamingIndex,      6, "1081 '$         ' 01 00 '2         . '"},
-        {&A::receiveNamingIndex,      7, "1081 '$         ' 01 00 '2         . ', 1122 'MIN'"},
-        {&A::receiveNamingIndex,      8, "1081 '%MPF      ' 01 00 '25        4 '"},
-        {&A::receiveNamingIndex,      9, "1081 '%         ' 02 00 '(         ) '"},
-        {&A::receiveNamingIndex,     10, "1081 '%         ' 02 00 '1           '"},
-        {&A::receiveNamingIndex,     11, "1079 00 00, 1103 '  '"},
-        {&A::receiveNamingIndex,     12, "1103 '  '"},
-        {&A::receiveTerminationIndex, 1, "799 '2         ' 03 00"},
-        {&A::receiveTerminationIndex, 2, "799 '30        ' 03 00"},
-    };
-    // clang-format on
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.places);
-        NdwAnswers answers;
-        answers.*row.answer = row.value;
-        ExpectBytes(Created(answers, L""), DcpByHand(row.places).Bytes());
-    }
-}
-
-TEST(modDcp, Texts) {
-    NdwAnswers answers;
-    answers.removedLines = L"  (N\u00e4ch ";
-    answers.receivePrefix = L"LATHE2-LEFT";
-    answers.receiveExtension = L"NC";
-    answers.receiveNamingIndex = 4;
-    DcpByHand expected(
-        "486 '(N' E4 'ch     ', 1081 ':', 1093 '2         4 ', 1105 'LATHE2-LEF', 1165 '(N' E4 'ch     '");
-    expected.With(114, std::string(64, 'X'));
-    ExpectBytes(Created(answers, std::wstring(70, L'X')), expected.Bytes());
 }
 
 TEST(modDcp, TheFileIsReadOnlyWhenItIsOne) {
@@ -135,17 +52,4 @@ TEST(modDcp, TheFileIsReadOnlyWhenItIsOne) {
         EXPECT_FALSE(ReadDcpBytes(AsBytes(wrong), records));
     }
     EXPECT_EQ(records.header.portNumber, 300);
-}
-
-TEST(modDcp, AnswersSurviveTheWayThereAndBack) {
-    const auto read = std::make_unique<DcpRecords>();
-    for (std::uint32_t seed = 0; seed < 10000; ++seed) {
-        const std::vector<unsigned char> bytes = RandomBytes(seed, 64);
-        Generator from(bytes);
-        const NdwAnswers answers = ValidAnswers(from);
-        const std::string written = Created(answers, L"Mill");
-        ASSERT_TRUE(ReadDcpBytes(AsBytes(written), *read));
-        ASSERT_EQ(read->header.portNumber, answers.portIndex + 1);
-        ASSERT_EQ(AsText(*read), written) << "with seed " << seed;
-    }
 }

@@ -4,6 +4,7 @@
 #include "wizard/Layout.h"
 #include "app/StartUp.h"
 #include "ndw/NdwPages.h"
+#include "tests/ndw/DcpByHand.h"
 #include "tests/support/FormUnderTest.h"
 #include "tests/support/Scratch.h"
 #include "win/Fonts.h"
@@ -115,7 +116,10 @@ void ExpectPage(FormUnderTest& test, bool scrolls = false) {
         EXPECT_TRUE(place.left >= 0 && place.top >= 0 && place.right <= client.right &&
                     place.bottom <= lowest)
             << Name(*control);
-        if (!scrolls || ClassOf(*control) != win::RichText::kClassName) ExpectTextFits(*control);
+        const bool isText = ClassOf(*control) == win::RichText::kClassName;
+        if (!scrolls || !isText) ExpectTextFits(*control);
+        const bool hasBar = (GetWindowLongW(*control, GWL_STYLE) & WS_VSCROLL) != 0;
+        EXPECT_TRUE(!isText || hasBar == scrolls) << Name(*control);
         for (auto other = controls.begin(); other != control; ++other) {
             const RECT second = PlaceOf(*other);
             RECT common{};
@@ -130,6 +134,10 @@ class Layout : public testing::TestWithParam<std::int16_t> {};
 } // namespace
 
 TEST_P(Layout, EveryPage) {
+    const ScratchSuite suite;
+    for (const wchar_t name : {L'1', L'2', L'3', L'4'})
+        WriteFileBytes(suite.Path() + std::wstring(60, L'W') + name + L".DCP",
+                       DcpByHand("178 00 01").Bytes());
     FormUnderTest test(GetParam());
     frmWizard& form = test.form;
     form.picCncIcon.Top(600_tw); // as when the form is loaded
@@ -141,10 +149,17 @@ TEST_P(Layout, EveryPage) {
     // The longest lines that the answers can make.
     NdwAnswers& answers = ndwSession.answers;
     answers.dataFormatIndex = kAsciiDataFormat;
-    answers.portIndex = 255;
+    answers.portIndex = 255; // with the uses
+    answers.baudIndex = 11;
+    answers.characterFormatIndex = 3;
+    answers.flowControlIndex = 2;
     answers.prefixChoice = 15;
     answers.suffixChoice = 31;
-    answers.receiveNamingIndex = 7;
+    answers.removedLines = answers.receivePrefix = std::wstring(10, L'W');
+    answers.filterOptions = 15;
+    answers.transmitTriggerIndex = 1;
+    answers.receiveNamingIndex = 4;
+    answers.receiveTerminationIndex = 2;
     for (const bool launched : {false, true})
         for (const Page& page : test.book.pages) {
             SCOPED_TRACE("mode " + std::to_string(GetParam()) + ", page " + std::to_string(page.number) +

@@ -1,6 +1,6 @@
 // Writes the sample configurations into a folder, one file a row of the table.
 //   sample-maker FOLDER
-#include "ndw/modDcp.h"
+#include "ndw/DcpFromAnswers.h"
 #include "tools/samples/SampleTable.h"
 
 #include <cstdio>
