@@ -41,7 +41,7 @@ Journey Run(Scene& scene, const std::wstring& failing) {
     for (const std::wstring& file : FileNames(scene.suite.Settings()))
         DeleteFileW((scene.suite.Settings() + file).c_str());
     RemoveDirectoryW(kCncFolder);
-    WriteFileBytes(scene.suite.Settings() + kIniName, "[General]\r\nKept=yes\r\n");
+    WriteFileBytes(scene.suite.Settings() + suite::kIniFile, "[General]\r\nKept=yes\r\n");
     SetEnvironmentVariableW(L"VWIZARD_FAIL", failing.c_str());
     const WizardDriver wizard(scene.suite, scene.arguments, WizardDriver::Wait::No);
     Walker walker(wizard);

@@ -93,8 +93,8 @@ std::vector<Row> Rows(const DemoSuite& suite) {
 const std::string kIni = "[General]\r\nSecurity=0\r\n";
 
 bool Touched(const std::wstring& folder) {
-    const bool touched = FileBytes(folder + kIniName) != kIni;
-    WriteFileBytes(folder + kIniName, kIni);
+    const bool touched = FileBytes(folder + suite::kIniFile) != kIni;
+    WriteFileBytes(folder + suite::kIniFile, kIni);
     return touched;
 }
 
@@ -139,7 +139,7 @@ void CheckRegistry(Tally& tally) {
     for (const std::wstring& folder : {suite.Settings(), common, suite.Folder() + L"Here\\Deep"})
         SHCreateDirectoryExW(nullptr, folder.c_str(), nullptr);
     for (const std::wstring& folder : {suite.Settings(), common})
-        WriteFileBytes(folder + kIniName, kIni);
+        WriteFileBytes(folder + suite::kIniFile, kIni);
     const auto rows = Rows(suite);
     const std::size_t step = tally.Quick() ? 12 : 1;
     for (std::size_t i = tally.Seed() % step; i < rows.size(); i += step)

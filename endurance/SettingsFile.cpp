@@ -164,7 +164,9 @@ void Run(Tally& tally, const DemoSuite& suite, Row& row, const std::wstring& set
     const ULONGLONG start = GetTickCount64() - begin;
     tally.Expect(start < 10000, named + L"took " + std::to_wstring(start) + L" ms to start");
     if (row.disk == Disk::FillsUp)
-        walker.onPage = [&](const std::wstring&) { FillUpWith(settings, settings + kIniName, row.content); };
+        walker.onPage = [&](const std::wstring&) {
+            FillUpWith(settings, settings + suite::kIniFile, row.content);
+        };
     const Journey journey = walker.Walk();
     const bool told = journey.Told(L"Unable to write data to configuration file: ") ||
                       journey.Told(L"The configuration file could not be written:");
@@ -183,7 +185,7 @@ void Try(Tally& tally, Row row) {
     const std::wstring settings =
         row.disk == Disk::Large ? suite.Settings() : FromEnvironment(L"SOAK_SMALL_DISK");
     if (settings.empty()) return tally.Skip(std::wstring(row.what) + L": needs root to mount a small disk");
-    const std::wstring file = settings + kIniName;
+    const std::wstring file = settings + suite::kIniFile;
     for (const std::wstring& old : FileNames(settings))
         DeleteFileW((settings + old).c_str());
     SetRegText(HKEY_CURRENT_USER, L"SOFTWARE\\Varnel\\Varnel DNC\\Paths", L"SettingsPath", settings);

@@ -78,6 +78,6 @@ void FtwHyperlink(frmWizard& form, std::int16_t index) {
     case Action::Browse:
         return BrowseForLocation(form);
     case Action::UseDefault:
-        return form.pool.txtUserInput[0].Text(locations.CommonDocumentsPath + kDefaultCncFolder);
+        return form.pool.txtUserInput[0].Text(locations.CommonDocumentsPath + suite::kCncFolder);
     }
 }

@@ -39,7 +39,8 @@ std::optional<std::int16_t> PortOf(const std::wstring& path) {
 
 // The system's pattern also finds longer extensions.
 bool MayBeConfiguration(const WIN32_FIND_DATAW& found) {
-    return lstrcmpiW(SplitPath(found.cFileName, kExtension).c_str(), kConfigurationExtension + 1) == 0 &&
+    return lstrcmpiW(SplitPath(found.cFileName, kExtension).c_str(), suite::kConfigurationExtension + 1) ==
+               0 &&
            !(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) && found.nFileSizeHigh == 0 &&
            found.nFileSizeLow == kDcpFileSize;
 }
@@ -75,7 +76,7 @@ std::map<int, std::vector<std::wstring>> PortsInUse(const std::wstring& folder, 
     std::map<int, std::vector<std::wstring>> uses;
     const ULONGLONG begin = GetTickCount64();
     WIN32_FIND_DATAW found{};
-    const HANDLE handle = FindFirstFileW((folder + L"*" + kConfigurationExtension).c_str(), &found);
+    const HANDLE handle = FindFirstFileW((folder + L"*" + suite::kConfigurationExtension).c_str(), &found);
     if (handle == INVALID_HANDLE_VALUE) return uses;
     const win::UniqueFind search(handle);
     do {
