@@ -42,7 +42,3 @@ std::wstring IconFolder();
 
 // Settings folder, configuration name, ".DCP".
 std::wstring ConfigurationFile(std::wstring_view name);
-
-inline constexpr auto& kIniName = suite::kIniFile;
-inline constexpr auto& kConfigurationExtension = suite::kConfigurationExtension;
-inline constexpr auto& kDefaultCncFolder = suite::kCncFolder;

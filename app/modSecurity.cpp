@@ -23,13 +23,17 @@ constexpr char kProbeLine[] = "Test\r\n";
 constexpr DWORD kProbeSize = sizeof kProbeLine - 1;
 
 // A virus scanner or an indexer may have the new file open for a moment, and not share it.
-template <class Attempt> auto Patiently(const Attempt& attempt) {
+bool IsInUse() { return GetLastError() == ERROR_SHARING_VIOLATION; }
+
+// The first result that is a success or a failure that does not pass; after half a second any.
+template <class Attempt, class Condition = bool (*)()>
+auto Patiently(const Attempt& attempt, const Condition& passes = IsInUse) {
     constexpr ULONGLONG kPatience_ms = 500;
     constexpr DWORD kPause_ms = 20;
     const ULONGLONG end = GetTickCount64() + kPatience_ms;
     for (;;) {
         auto result = attempt();
-        if (result || GetLastError() != ERROR_SHARING_VIOLATION || GetTickCount64() >= end) return result;
+        if (result || !passes() || GetTickCount64() >= end) return result;
         Sleep(kPause_ms);
     }
 }
@@ -71,9 +75,7 @@ std::wstring DateAndTime() {
     return text;
 }
 
-std::int16_t TestIniFile(const std::wstring& file) {
-    if (!FileExists(file)) return kIniMissing;
-    if (GetFileAttributesW(file.c_str()) & FILE_ATTRIBUTE_READONLY) return kIniReadOnly;
+std::int16_t WriteAndReadBack(const std::wstring& file) {
     const std::wstring now = DateAndTime();
     // Not by WriteIniString, whose refusal would be told; that the disk has room the probe file has shown.
     if (!WritePrivateProfileStringA(ToAnsi(suite::kGeneral).c_str(), ToAnsi(suite::kAccessTest).c_str(),
@@ -82,6 +84,16 @@ std::int16_t TestIniFile(const std::wstring& file) {
     SetLastError(ERROR_SUCCESS); // the profile calls leave a misleading one behind after a success
     return ReadIniString(suite::kGeneral, suite::kAccessTest, L"", file) == now ? kConfigAccessGranted
                                                                                 : kIniReadBackDiffers;
+}
+
+std::int16_t TestIniFile(const std::wstring& file) {
+    if (!FileExists(file)) return kIniMissing;
+    if (GetFileAttributesW(file.c_str()) & FILE_ATTRIBUTE_READONLY) return kIniReadOnly;
+    std::int16_t code = kConfigAccessGranted;
+    // A program that writes a key at the same time may put back the file as it was before.
+    Patiently([&] { return (code = WriteAndReadBack(file)) == kConfigAccessGranted; },
+              [&] { return code == kIniReadBackDiffers || IsInUse(); });
+    return code;
 }
 
 } // namespace

@@ -43,7 +43,7 @@ Journey Run(Scene& scene, const std::wstring& failing) {
     for (const std::wstring& file : FileNames(scene.suite.Settings()))
         DeleteFileW((scene.suite.Settings() + file).c_str());
     RemoveDirectoryW(kCncFolder);
-    WriteFileBytes(scene.suite.Settings() + kIniName, "[General]\r\nKept=yes\r\n");
+    WriteFileBytes(scene.suite.Settings() + suite::kIniFile, "[General]\r\nKept=yes\r\n");
     SetRegText(HKEY_LOCAL_MACHINE, kRunOnce, L"Varnel_DNC_FTSW", L"x");
     SetEnvironmentVariableW(L"VWIZARD_FAIL", failing.c_str());
     const WizardDriver wizard(scene.suite.CommandLine(scene.arguments), WizardDriver::Wait::No);

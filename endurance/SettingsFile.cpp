@@ -86,7 +86,7 @@ void Run(Tally& tally, const DemoSuite& suite, const Row& row, const std::wstrin
     const WizardDriver wizard(suite.CommandLine(arguments), WizardDriver::Wait::No);
     Walker walker(wizard);
     if (row.disk == Disk::FillsUp)
-        walker.onPage = [&](const std::wstring&) { FillUpWith(settings, settings + kIniName); };
+        walker.onPage = [&](const std::wstring&) { FillUpWith(settings, settings + suite::kIniFile); };
     const Journey journey = walker.Walk();
     tally.Expect(journey.trouble.empty() && EndOf(journey) == ends &&
                      (ends != Ends::Finished || journey.Passed(L"Finished")),
@@ -98,7 +98,7 @@ void Try(Tally& tally, const Row& row) {
     const std::wstring settings =
         row.disk == Disk::Large ? suite.Settings() : FromEnvironment(L"SOAK_SMALL_DISK");
     if (settings.empty()) return tally.Skip(std::wstring(row.what) + L": needs root to mount a small disk");
-    const std::wstring file = settings + kIniName;
+    const std::wstring file = settings + suite::kIniFile;
     const std::string content = Content(row.large ? tally.Of(100000, 1000) : 0);
     for (const std::wstring& old : FileNames(settings))
         DeleteFileW((settings + old).c_str());
@@ -121,8 +121,8 @@ void Try(Tally& tally, const Row& row) {
 // refused. That two writers never lose a key of each other is more than the profile calls promise.
 void TryOtherWriters(Tally& tally, int starts) {
     const DemoSuite suite;
-    const std::string file = Utf8(suite.Settings() + kIniName);
-    WriteFileBytes(suite.Settings() + kIniName, Content(0));
+    const std::string file = Utf8(suite.Settings() + suite::kIniFile);
+    WriteFileBytes(suite.Settings() + suite::kIniFile, Content(0));
     std::atomic<int> refused = 0;
     std::jthread writer([&](const std::stop_token& over) {
         for (int i = 0; !over.stop_requested(); ++i, Sleep(20))

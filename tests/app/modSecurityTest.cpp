@@ -2,6 +2,7 @@
 
 #include "app/Settings.h"
 #include "app/Suite.h"
+#include "tests/support/Imports.h"
 #include "tests/support/Scratch.h"
 
 #include <gtest/gtest.h>
@@ -62,6 +63,29 @@ TEST(Security, OthersMayHaveTheProbeOpen) {
         });
         EXPECT_EQ(TestFolderWrite(folder), row.code) << "shared as " << row.share;
     }
+}
+
+namespace {
+
+int undone = 0; // so many writes that another program undoes
+decltype(&WritePrivateProfileStringA) systemWrite = nullptr;
+
+BOOL WINAPI WriteUnlessUndone(LPCSTR section, LPCSTR key, LPCSTR value, LPCSTR file) {
+    return undone-- > 0 || systemWrite(section, key, value, file);
+}
+
+} // namespace
+
+TEST(Security, AnotherProgramMayWriteTheSettingsMeanwhile) {
+    const ReplacedImport import("WritePrivateProfileStringA", reinterpret_cast<void*>(&WriteUnlessUndone));
+    systemWrite = import.Original<decltype(systemWrite)>();
+    for (const auto& [times, code] : {std::pair(1, 0), std::pair(1'000'000, 13)}) {
+        const ScratchFolder folder;
+        WriteFileBytes(folder.Path() + suite::kIniFile, "[General]\r\n");
+        undone = times;
+        EXPECT_EQ(FindConfigAccess(folder).Code, code);
+    }
+    undone = 0;
 }
 
 TEST(Security, ASuccessLeavesItsKeyAndNoProbe) {
