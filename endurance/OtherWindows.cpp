@@ -1,4 +1,5 @@
-// Windows of other programs: a start is never held up by a window that does not answer.
+// Windows of other programs, and of a second copy: a start is never held up by a window that does not
+// answer, and there are never two wizards of one mode.
 #include "endurance/Soak.h"
 #include "tools/driver/Walker.h"
 
@@ -106,4 +107,18 @@ void CheckWindows(Tally& tally) {
         tally.Expect(time <= alone + 1000, std::wstring(row.what) + L": " + std::to_wstring(time) + L" ms");
     }
     tally.Note("6 kinds of foreign windows, alone a start takes " + std::to_string(alone) + " ms");
+}
+
+void CheckTwoCopies(Tally& tally) {
+    const DemoSuite suite;
+    const int count = tally.Of(100, 15);
+    for (int i = 0; i < count; ++i) {
+        const WizardDriver first(suite.CommandLine(), WizardDriver::Wait::No);
+        const WizardDriver second(suite.CommandLine(), WizardDriver::Wait::No);
+        // Each is settled when it has a page or has ended.
+        const int pages = Walker(first).WaitUntilReady() + Walker(second).WaitUntilReady();
+        tally.Expect(pages == 1 && first.IsRunning() != second.IsRunning(),
+                     std::to_wstring(pages) + L" wizards");
+    }
+    tally.Note(std::to_string(count) + " pairs of starts");
 }

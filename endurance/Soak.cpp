@@ -25,6 +25,7 @@ constexpr Check kChecks[] = {
     {"ini",      CheckSettingsFile},
     {"folder",   CheckFolder},
     {"windows",  CheckWindows},
+    {"copies", CheckTwoCopies},
     {"planted",  CheckPlanted},
     {"monkey",   CheckMonkey},
     {"leaks",    CheckLeaks},

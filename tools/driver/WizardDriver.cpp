@@ -80,7 +80,7 @@ std::wstring WizardDriver::AnswerBox(int button) const {
     Until([&] { return (box = FindWindowOf(L"#32770", L"", button)) != nullptr; },
           L"a message box with button " + std::to_wstring(button));
     const HWND label = GetDlgItem(box, kBoxText);
-    const std::wstring text = TextOf(box) + L"\r\n" + (label ? TextOf(label) : L"");
+    std::wstring text = TextOf(box) + L"\r\n" + (label ? TextOf(label) : L"");
     PostMessageW(GetDlgItem(box, button), BM_CLICK, 0, 0);
     Until([box] { return !IsWindow(box) || !IsWindowVisible(box); }, L"the message box to go: " + text);
     return text;
