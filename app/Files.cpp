@@ -1,8 +1,8 @@
 #include "app/Files.h"
 
 #include "app/Blanks.h"
-#include "win/Com.h"
 #include "app/Paths.h"
+#include "win/Com.h"
 #include "win/Handles.h"
 
 #include <shellapi.h>

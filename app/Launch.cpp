@@ -1,7 +1,7 @@
 #include "app/Launch.h"
 
-#include "win/Com.h"
 #include "app/Suite.h"
+#include "win/Com.h"
 #include "win/Handles.h"
 
 #include <windows.h>

@@ -2,8 +2,8 @@
 
 #include "app/Blanks.h"
 #include "app/CodePage.h"
-#include "win/Com.h"
 #include "app/SpecialFolders.h"
+#include "win/Com.h"
 
 #include <objbase.h>
 #include <shlobj.h>
