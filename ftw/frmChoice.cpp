@@ -1,8 +1,5 @@
 #include "ftw/frmChoice.h"
 
-#include "win/Fonts.h"
-#include "win/Screen.h"
-
 #include <algorithm>
 
 std::int16_t setupChoice = 0;
@@ -16,12 +13,9 @@ constexpr Twips kMargin = 240_tw;
 constexpr Twips kWidth = 5700_tw; // of text and options
 constexpr Twips kLine = 210_tw;
 constexpr Twips kOptionGap = 105_tw;
-constexpr Twips kButtonWidth = 1095_tw;
-constexpr Twips kButtonHeight = 375_tw;
 constexpr Twips kOptionTop = kMargin + kLine * 3;
 
-constexpr DWORD kStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN;
-constexpr DWORD kExtendedStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
+enum ChoiceIds { kInstructionsId = 100, kOptionId };
 
 constexpr wchar_t kInstructions[] =
     L"If you are installing Varnel DNC for the first time, choose \"New Installation\" and "
@@ -43,14 +37,12 @@ constexpr OptionRow kOptions[] = {
 } // namespace
 
 frmChoice::frmChoice() {
-    Create({L"VarnelChoice", L"Varnel DNC Setup Wizard", kStyle, kExtendedStyle, nullptr},
-           win::FontFor(win::FontUse::Body), 0, 0);
-    Background(COLOR_BTNFACE);
-    lblInstructions.Bind(*this, 100, L"Static", SS_LEFT | SS_NOPREFIX);
+    MakeWindow(L"VarnelChoice", L"Varnel DNC Setup Wizard");
+    lblInstructions.Bind(*this, kInstructionsId, SS_LEFT | SS_NOPREFIX);
     for (std::size_t i = 0; i < optChoice.size(); ++i)
-        optChoice[i].Bind(*this, 101 + static_cast<int>(i), L"Button",
-                          BS_AUTORADIOBUTTON | BS_MULTILINE | BS_TOP | (i == 0 ? WS_GROUP | WS_TABSTOP : 0));
-    cmdOK.Bind(*this, IDOK, L"Button", BS_PUSHBUTTON | BS_NOTIFY | WS_GROUP | WS_TABSTOP);
+        optChoice[i].Bind(*this, kOptionId + static_cast<int>(i),
+                          BS_MULTILINE | BS_TOP | (i == 0 ? WS_GROUP | WS_TABSTOP : 0));
+    cmdOK.Bind(*this, IDOK);
     cmdOK.onClick = [this] { cmdOK_Click(); };
     PlaceControls();
 }
@@ -70,13 +62,7 @@ void frmChoice::PlaceControls() {
     cmdOK.Text(L"OK");
     cmdOK.Visible(true);
     DefaultButton(cmdOK);
-    RECT window{0, 0, win::Px(kWidth + kMargin * 2), win::Px(cmdOK.Bottom() + kMargin)};
-    AdjustWindowRectEx(&window, kStyle, FALSE, kExtendedStyle);
-    const LONG width = window.right - window.left;
-    const LONG height = window.bottom - window.top;
-    const RECT area = win::WorkArea();
-    SetWindowPos(Hwnd(), nullptr, (area.left + area.right - width) / 2, (area.top + area.bottom - height) / 2,
-                 width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+    ClientSize(kWidth + kMargin * 2, cmdOK.Bottom() + kMargin);
 }
 
 win::Button& frmChoice::Form_Load() {
@@ -96,8 +82,10 @@ void frmChoice::Form_Unload() {
     if (selected != optChoice.end()) setupChoice = static_cast<std::int16_t>(selected - optChoice.begin());
 }
 
-void ShowChoice(HWND owner) {
-    frmChoice form;
-    form.ShowModal(owner, form.Form_Load());
-    form.Form_Unload();
+void frmChoice::Show(HWND owner) {
+    Center(owner);
+    ShowModal(owner, Form_Load());
+    Form_Unload();
 }
+
+void ShowChoice(HWND owner) { frmChoice().Show(owner); }

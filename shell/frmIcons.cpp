@@ -24,12 +24,7 @@ constexpr Twips kFrame = 30_tw; // thickness of the selection frame
 constexpr Twips kGap = 90_tw;
 constexpr Twips kLabelHeight = 210_tw;
 constexpr Twips kCountWidth = 1200_tw;
-constexpr Twips kButtonWidth = 1095_tw;
-constexpr Twips kButtonHeight = 375_tw;
 constexpr Twips kClientWidth = kStripWidth + kMargin * 2;
-
-constexpr DWORD kStyle = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN | DS_MODALFRAME;
-constexpr DWORD kExtendedStyle = WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT;
 
 // A window that takes no input for as long as this lives.
 class Disabled {
@@ -93,9 +88,7 @@ bool PickerButton::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT
 }
 
 frmIcons::frmIcons() {
-    Create({L"VarnelIcons", L"Select Icon", kStyle, kExtendedStyle, nullptr},
-           win::FontFor(win::FontUse::Body), 0, 0);
-    Background(COLOR_BTNFACE);
+    MakeWindow(L"VarnelIcons", L"Select Icon");
     BindControls();
     cmdOK.onClick = [this] { cmdOK_Click(); };
     cmdCancel.onClick = [this] { cmdCancel_Click(); };
@@ -105,19 +98,17 @@ frmIcons::frmIcons() {
         };
 }
 
-// BS_NOTIFY tells a double click from two clicks. The scroll bar is no tab stop: on it the arrow keys would
-// scroll instead of choosing.
+// The scroll bar is no tab stop: on it the arrow keys would scroll instead of choosing.
 void frmIcons::BindControls() {
     for (std::size_t i = 0; i < imgIcon.size(); ++i)
-        imgIcon[i].Bind(*this, kSlotId + static_cast<int>(i), L"Button",
-                        BS_OWNERDRAW | BS_NOTIFY | (i == 0 ? WS_GROUP : 0));
-    hScrollIcons.Bind(*this, kScrollId, L"ScrollBar", SBS_HORZ | WS_GROUP);
-    lblIconName.Bind(*this, kNameId, L"Static", SS_LEFT | SS_NOPREFIX | SS_ENDELLIPSIS);
-    lblnIcons.Bind(*this, kCountId, L"Static", SS_RIGHT | SS_NOPREFIX);
-    constexpr DWORD kPushButton = BS_PUSHBUTTON | BS_NOTIFY | WS_GROUP | WS_TABSTOP;
-    cmdOK.Bind(*this, IDOK, L"Button", kPushButton);
-    cmdCancel.Bind(*this, IDCANCEL, L"Button", kPushButton);
-    picIcons.Bind(*this, kStripId, L"Static", SS_OWNERDRAW | WS_CLIPSIBLINGS, WS_EX_CLIENTEDGE);
+        imgIcon[i].Bind(*this, kSlotId + static_cast<int>(i), BS_OWNERDRAW | (i == 0 ? WS_GROUP : 0));
+    hScrollIcons.Bind(*this, kScrollId, SBS_HORZ | WS_GROUP);
+    lblIconName.Bind(*this, kNameId, SS_LEFT | SS_NOPREFIX | SS_ENDELLIPSIS);
+    lblnIcons.Bind(*this, kCountId, SS_RIGHT | SS_NOPREFIX);
+    constexpr DWORD kPushButton = BS_PUSHBUTTON | WS_GROUP | WS_TABSTOP;
+    cmdOK.Bind(*this, IDOK, kPushButton);
+    cmdCancel.Bind(*this, IDCANCEL, kPushButton);
+    picIcons.Bind(*this, kStripId, SS_OWNERDRAW | WS_CLIPSIBLINGS, WS_EX_CLIENTEDGE);
 }
 
 void frmIcons::OpenForm(const std::wstring& folder, HWND owner) {
@@ -132,7 +123,9 @@ void frmIcons::OpenForm(const std::wstring& folder, HWND owner) {
     if (icons_->Count() == 0) return;
     LayOut();
     ShowControls();
-    MoveOver(owner);
+    // Only a window that is owned stays in front of its owner.
+    SetWindowLongPtrW(Hwnd(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
+    Center(owner);
     Show(OpenStrip(icons_->Count(), DefaultPosition(icons_->Keys())));
     ShowModal(owner, imgIcon[static_cast<std::size_t>(*SelectedSlot(strip_) - 1)]);
 }
@@ -152,10 +145,7 @@ void frmIcons::LayOut() {
     cmdOK.Place(right - kButtonWidth * 2 - kGap, buttonTop, kButtonWidth, kButtonHeight);
     cmdCancel.Place(right - kButtonWidth, buttonTop, kButtonWidth, kButtonHeight);
     picIcons.Place(kMargin, kMargin, kStripWidth, stripHeight);
-    RECT window{0, 0, win::Px(kClientWidth), win::Px(buttonTop + kButtonHeight + kMargin)};
-    AdjustWindowRectEx(&window, kStyle, FALSE, kExtendedStyle);
-    SetWindowPos(Hwnd(), nullptr, 0, 0, window.right - window.left, window.bottom - window.top,
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    ClientSize(kClientWidth, buttonTop + kButtonHeight + kMargin);
 }
 
 // The strip comes last, so that it lies behind its slots.
@@ -169,23 +159,6 @@ void frmIcons::ShowControls() {
     cmdOK.Text(L"OK");
     cmdCancel.Text(L"Cancel");
     DefaultButton(cmdOK);
-}
-
-// In the middle of the owner, but whole on the screen. Only a window that is owned stays in front of its
-// owner.
-void frmIcons::MoveOver(HWND owner) {
-    SetWindowLongPtrW(Hwnd(), GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(owner));
-    const RECT area = win::WorkArea();
-    RECT under = area;
-    if (owner) GetWindowRect(owner, &under);
-    RECT window{};
-    GetWindowRect(Hwnd(), &window);
-    const LONG width = window.right - window.left;
-    const LONG height = window.bottom - window.top;
-    const LONG left = std::min((under.left + under.right - width) / 2, area.right - width);
-    const LONG top = std::min((under.top + under.bottom - height) / 2, area.bottom - height);
-    SetWindowPos(Hwnd(), nullptr, std::max(left, area.left), std::max(top, area.top), 0, 0,
-                 SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void frmIcons::Show(const IconStrip& strip) {

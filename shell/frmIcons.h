@@ -7,7 +7,7 @@
 #include "shell/IconList.h"
 #include "shell/IconStrip.h"
 #include "win/Control.h"
-#include "win/Form.h"
+#include "win/DialogForm.h"
 
 #include <windows.h>
 
@@ -19,12 +19,15 @@
 // A push button that leaves characters and the keys that choose an icon to its form, which gets them as its
 // own.
 class PickerButton : public win::Button {
+  public:
+    void Bind(win::Form& form, int id, DWORD style) { Button::Bind(form, id, style | BS_NOTIFY); }
+
   protected:
     void Made() override { InterceptMessages(); }
     bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
 };
 
-class frmIcons : public win::Form {
+class frmIcons : public win::DialogForm {
   public:
     frmIcons();
     ~frmIcons() override { Destroy(); }
@@ -38,7 +41,7 @@ class frmIcons : public win::Form {
     // Controls.
     win::Label picIcons;                          // the strip
     std::array<PickerButton, kIconSlots> imgIcon; // its slots; the caption is the icon's name
-    win::Control hScrollIcons;                    // its position is IconStrip::scroll
+    win::ScrollBar hScrollIcons;                  // its position is IconStrip::scroll
     win::Label lblnIcons;
     win::Label lblIconName;
     PickerButton cmdOK, cmdCancel;
@@ -62,7 +65,6 @@ class frmIcons : public win::Form {
     void BindControls();
     void LayOut();
     void ShowControls();
-    void MoveOver(HWND owner);
     void Show(const IconStrip& strip);
     void ShowScrollBar();
     void MoveFocus();

@@ -28,10 +28,6 @@ class Control {
     Control& operator=(const Control&) = delete;
     virtual ~Control();
 
-    // Ties the control to its form and gives it the class, style and control id that it is made with.
-    // Called once, before anything else. `className` must be a literal.
-    void Bind(Form& form, int id, const wchar_t* className, DWORD style, DWORD extendedStyle = 0);
-
     HWND Handle();                              // makes the window when there is none yet
     HWND HandleIfMade() const { return hwnd_; } // null while nothing needed the window
     int Id() const { return id_; }
@@ -70,6 +66,10 @@ class Control {
     std::function<void()> onChange; // of a ComboBox: another item is selected, or its list was closed
 
   protected:
+    // Ties the control to its form and gives it the class, style and control id that it is made with.
+    // Called once, before anything else. `className` must be a literal.
+    void Bind(Form& form, int id, const wchar_t* className, DWORD style, DWORD extendedStyle = 0);
+
     virtual void Made() {} // the window has just been made
     // Looks at a message before the system's own control does; true: handled, `result` is the answer.
     // Only called for classes that ask for it in Made() by InterceptMessages().
@@ -103,30 +103,73 @@ class Control {
     RECT area_{};
 };
 
-class Label : public Control {};
+// ---- the kinds of controls: Bind() takes the style bits besides those of the kind ----
 
-// Push button, option button or check box, by its style.
+class Label : public Control {
+  public:
+    void Bind(Form& form, int id, DWORD style = SS_LEFT, DWORD extendedStyle = 0) {
+        Control::Bind(form, id, L"Static", style, extendedStyle);
+    }
+};
+
 class Button : public Control {
   public:
     bool Checked() { return Send(BM_GETCHECK) == BST_CHECKED; }
     void Checked(bool checked);
+
+  protected:
+    void Bind(Form& form, int id, DWORD style) { Control::Bind(form, id, L"Button", style); }
+};
+
+// Like a link it has BS_NOTIFY: the system then tells a double click from two clicks.
+class PushButton : public Button {
+  public:
+    void Bind(Form& form, int id, DWORD style = WS_GROUP) {
+        Button::Bind(form, id, BS_PUSHBUTTON | BS_NOTIFY | WS_TABSTOP | style);
+    }
+};
+
+// One of a group, whose first one has WS_GROUP and WS_TABSTOP.
+class OptionButton : public Button {
+  public:
+    void Bind(Form& form, int id, DWORD style = 0) { Button::Bind(form, id, BS_AUTORADIOBUTTON | style); }
+};
+
+class CheckBox : public Button {
+  public:
+    void Bind(Form& form, int id, DWORD style = WS_GROUP) {
+        Button::Bind(form, id, BS_AUTOCHECKBOX | WS_TABSTOP | style);
+    }
 };
 
 // Clickable text: a button drawn by its form. A hand over it; Space and Enter follow it.
-class Link : public Control {
+class Link : public Button {
+  public:
+    void Bind(Form& form, int id, DWORD style = WS_GROUP) {
+        Button::Bind(form, id, BS_OWNERDRAW | BS_NOTIFY | WS_TABSTOP | style);
+    }
+
   protected:
     void Made() override { InterceptMessages(); }
     bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
 };
 
+// One line.
 class TextBox : public Control {
   public:
+    void Bind(Form& form, int id, DWORD style = WS_GROUP) {
+        Control::Bind(form, id, L"Edit", ES_AUTOHSCROLL | WS_TABSTOP | style, WS_EX_CLIENTEDGE);
+    }
     void Limit(int characters) { Send(EM_SETLIMITTEXT, static_cast<WPARAM>(characters)); }
     void SelectAll() { Send(EM_SETSEL, 0, -1); }
 };
 
 class ListBox : public Control {
   public:
+    void Bind(Form& form, int id, DWORD style = WS_GROUP) {
+        Control::Bind(form, id, L"ListBox",
+                      LBS_NOINTEGRALHEIGHT | LBS_NOTIFY | WS_VSCROLL | WS_TABSTOP | style, WS_EX_CLIENTEDGE);
+    }
     // Takes the place of what was there; painted once.
     void Fill(const std::vector<std::wstring>& items);
     int Count() { return static_cast<int>(Send(LB_GETCOUNT)); }
@@ -140,6 +183,9 @@ class ListBox : public Control {
 // A drop-down list. The wheel turns it only while it has the focus or is open, not in passing.
 class ComboBox : public Control {
   public:
+    void Bind(Form& form, int id, DWORD style = WS_GROUP) {
+        Control::Bind(form, id, L"ComboBox", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP | style);
+    }
     void Clear() { Send(CB_RESETCONTENT); }
     void Add(std::wstring_view item);
     int Index() { return static_cast<int>(Send(CB_GETCURSEL)); } // -1: none
@@ -148,6 +194,11 @@ class ComboBox : public Control {
   protected:
     void Made() override;
     bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
+};
+
+class ScrollBar : public Control {
+  public:
+    void Bind(Form& form, int id, DWORD style) { Control::Bind(form, id, L"ScrollBar", style); }
 };
 
 std::wstring WindowText(HWND window);

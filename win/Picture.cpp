@@ -19,8 +19,8 @@ Picture::Picture(int number, int dpi) : stored_(FindBitmap(number + PictureStep(
 
 void Picture::Draw(HDC dc, int x, int y) const {
     if (!stored_) return;
-    const auto* colours = reinterpret_cast<const BYTE*>(stored_) + stored_->biSize;
-    const BYTE* pixels = colours + stored_->biClrUsed * sizeof(RGBQUAD);
+    const auto* colors = reinterpret_cast<const BYTE*>(stored_) + stored_->biSize;
+    const BYTE* pixels = colors + stored_->biClrUsed * sizeof(RGBQUAD);
     const int mode = SetStretchBltMode(dc, HALFTONE);
     SetBrushOrgEx(dc, 0, 0, nullptr); // HALFTONE asks for it
     StretchDIBits(dc, x, y, size_.cx, size_.cy, 0, 0, stored_->biWidth, stored_->biHeight, pixels,

@@ -20,7 +20,7 @@ constexpr int PictureStep(int dpi) {
     return 3;
 }
 
-// A bitmap of up to 8 bits with its colours counted (biClrUsed), without transparency. It is drawn from where
+// A bitmap of up to 8 bits with its colors counted (biClrUsed), without transparency. It is drawn from where
 // the program's file is mapped: nothing is loaded or kept. One that is not there has no size and draws
 // nothing: no page depends on seeing a picture.
 class Picture {
@@ -35,7 +35,7 @@ class Picture {
     void Draw(HDC dc, int x, int y) const;
 
   private:
-    const BITMAPINFOHEADER* stored_ = nullptr; // in the resource; its colours and pixels follow
+    const BITMAPINFOHEADER* stored_ = nullptr; // in the resource; its colors and pixels follow
     SIZE size_ = {};
 };
 

@@ -15,10 +15,14 @@ namespace win {
 
 class RichText : public Control {
   public:
-    // Style bits for Bind(); the class needs LoadRichText() first.
-    static constexpr DWORD kStyle = ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL | ES_NOHIDESEL |
-                                    ES_NOOLEDRAGDROP | WS_VSCROLL | WS_TABSTOP;
     static constexpr const wchar_t* kClassName = L"RichEdit20W";
+
+    // Needs LoadRichText() first.
+    void Bind(Form& form, int id, DWORD style) {
+        constexpr DWORD kStyle =
+            ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL | ES_NOHIDESEL | ES_NOOLEDRAGDROP;
+        Control::Bind(form, id, kClassName, kStyle | WS_GROUP | WS_TABSTOP | style);
+    }
 
     // Replaces the whole text, all of it in the control's font and the system's text color. CR LF, CR or LF
     // ends a line. Nothing is selected afterwards.

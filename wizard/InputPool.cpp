@@ -20,13 +20,9 @@ enum PoolIds {
     kFrameId = 330
 };
 
-constexpr DWORD kGroup = WS_GROUP | WS_TABSTOP;
-
-template <class Group>
-void BindGroup(Group& group, win::Form& form, int firstId, const wchar_t* className, DWORD style,
-               DWORD extendedStyle = 0) {
+template <class Group> void BindGroup(Group& group, win::Form& form, int firstId) {
     for (auto& element : group) {
-        element.Bind(form, firstId++, className, style, extendedStyle);
+        element.Bind(form, firstId++);
         element.Place(layout::kTextLeft, layout::kTextTop, layout::kInputWidth, layout::kOptionHeight);
     }
 }
@@ -34,18 +30,18 @@ void BindGroup(Group& group, win::Form& form, int firstId, const wchar_t* classN
 } // namespace
 
 void InputPool::Bind(win::Form& form) {
-    optUserInput[0].Bind(form, kOptionId, L"Button", BS_AUTORADIOBUTTON | kGroup);
+    optUserInput[0].Bind(form, kOptionId, WS_GROUP | WS_TABSTOP);
     for (std::size_t i = 1; i < optUserInput.size(); ++i)
-        optUserInput[i].Bind(form, kOptionId + static_cast<int>(i), L"Button", BS_AUTORADIOBUTTON);
-    BindGroup(chkUserInput, form, kCheckId, L"Button", BS_AUTOCHECKBOX | kGroup);
-    BindGroup(txtUserInput, form, kTextId, L"Edit", ES_AUTOHSCROLL | kGroup, WS_EX_CLIENTEDGE);
-    constexpr DWORD kList = LBS_NOINTEGRALHEIGHT | LBS_NOTIFY | WS_VSCROLL | kGroup;
-    lstUserInput[0].Bind(form, kListId, L"ListBox", LBS_EXTENDEDSEL | kList, WS_EX_CLIENTEDGE);
-    lstUserInput[1].Bind(form, kListId + 1, L"ListBox", kList, WS_EX_CLIENTEDGE);
-    BindGroup(lblUserPrompt, form, kPromptId, L"Static", SS_LEFT | SS_NOTIFY | WS_GROUP);
-    BindGroup(lblHyperlink, form, kLinkId, L"Button", BS_OWNERDRAW | BS_NOTIFY | kGroup);
-    cmbUserInput.Bind(form, kComboId, L"ComboBox", CBS_DROPDOWNLIST | WS_VSCROLL | kGroup);
-    fraContainer.Bind(form, kFrameId, L"Static", SS_LEFT);
+        optUserInput[i].Bind(form, kOptionId + static_cast<int>(i));
+    BindGroup(chkUserInput, form, kCheckId);
+    BindGroup(txtUserInput, form, kTextId);
+    lstUserInput[0].Bind(form, kListId, LBS_EXTENDEDSEL | WS_GROUP);
+    lstUserInput[1].Bind(form, kListId + 1);
+    for (std::size_t i = 0; i < lblUserPrompt.size(); ++i)
+        lblUserPrompt[i].Bind(form, kPromptId + static_cast<int>(i), SS_LEFT | SS_NOTIFY | WS_GROUP);
+    BindGroup(lblHyperlink, form, kLinkId);
+    cmbUserInput.Bind(form, kComboId);
+    fraContainer.Bind(form, kFrameId);
     for (auto& link : lblHyperlink)
         link.Font(win::FontFor(win::FontUse::Link));
 }

@@ -16,8 +16,8 @@
 class frmWizard;
 
 struct InputPool {
-    std::array<win::Button, 6> optUserInput; // option buttons, one group
-    std::array<win::Button, 5> chkUserInput;
+    std::array<win::OptionButton, 6> optUserInput; // option buttons, one group
+    std::array<win::CheckBox, 5> chkUserInput;
     std::array<win::TextBox, 2> txtUserInput;
     std::array<win::ListBox, 2> lstUserInput; // 0: several may be selected, unsorted; 1: one
     std::array<win::Label, 5> lblUserPrompt;

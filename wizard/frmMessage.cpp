@@ -1,7 +1,6 @@
 #include "wizard/frmMessage.h"
 
 #include "app/modLocations.h"
-#include "win/Fonts.h"
 #include "win/Screen.h"
 #include "wizard/Markup.h"
 
@@ -12,7 +11,6 @@ namespace {
 using namespace win::literals;
 
 constexpr wchar_t kApplicationTitle[] = L"VWizard";
-constexpr win::Twips kButtonHeight = 375_tw;
 constexpr win::Twips kTextInset = 120_tw; // half of what the text is smaller than its panel
 
 enum MessageIds { kFirstButtonId = 100, kTextId = 110, kPanelId };
@@ -55,17 +53,13 @@ std::optional<PixelArea> AreaOf(HWND window) {
 
 frmMessage::frmMessage() {
     win::LoadRichText();
-    Create({L"VarnelMessage", L"", WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN,
-            WS_EX_DLGMODALFRAME | WS_EX_CONTROLPARENT, nullptr},
-           win::FontFor(win::FontUse::Body), 0, 0);
-    Background(COLOR_BTNFACE);
+    MakeWindow(L"VarnelMessage", L"");
     for (std::size_t i = 0; i < cmdButton.size(); ++i) {
-        cmdButton[i].Bind(*this, kFirstButtonId + static_cast<int>(i), L"Button",
-                          BS_PUSHBUTTON | BS_NOTIFY | WS_TABSTOP | (i == 0 ? WS_GROUP : 0));
+        cmdButton[i].Bind(*this, kFirstButtonId + static_cast<int>(i), i == 0 ? WS_GROUP : 0);
         cmdButton[i].onClick = [this, i] { cmdButton_Click(i); };
     }
-    txtMessage.Bind(*this, kTextId, win::RichText::kClassName, win::RichText::kStyle | WS_GROUP);
-    picMessage.Bind(*this, kPanelId, L"Static", SS_OWNERDRAW | WS_CLIPSIBLINGS);
+    txtMessage.Bind(*this, kTextId, WS_VSCROLL);
+    picMessage.Bind(*this, kPanelId, SS_OWNERDRAW | WS_CLIPSIBLINGS);
 }
 
 std::int16_t frmMessage::Show(const std::wstring& message, std::int16_t buttons, std::int16_t size,
@@ -167,7 +161,7 @@ LRESULT frmMessage::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     return result;
 }
 
-// The system's own white rectangle is of another colour in high-contrast schemes.
+// The system's own white rectangle is of another color in high-contrast schemes.
 void frmMessage::OnDrawItem(win::Control&, const DRAWITEMSTRUCT& item) {
     FillRect(item.hDC, &item.rcItem, GetSysColorBrush(COLOR_WINDOW));
 }

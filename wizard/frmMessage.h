@@ -4,7 +4,7 @@
 // own message box cannot show.
 
 #include "win/Control.h"
-#include "win/Form.h"
+#include "win/DialogForm.h"
 #include "win/RichText.h"
 #include "wizard/MessageLayout.h"
 
@@ -14,7 +14,7 @@
 #include <cstdint>
 #include <string>
 
-class frmMessage : public win::Form {
+class frmMessage : public win::DialogForm {
   public:
     frmMessage();
     ~frmMessage() override { Destroy(); }
@@ -26,7 +26,7 @@ class frmMessage : public win::Form {
     // Controls.
     win::Label picMessage; // the panel around the text
     win::RichText txtMessage;
-    std::array<win::Button, kMessageButtons> cmdButton;
+    std::array<win::PushButton, kMessageButtons> cmdButton;
 
     // Throws std::out_of_range for an index beyond 3.
     void cmdButton_Click(std::size_t index);

@@ -63,7 +63,7 @@ COLORREF LinkColor() {
 
 frmWizard::frmWizard(const PageBook& book, WizardStart start)
     : ConfigAllowed(start.configAllowed), book_(book), start_(std::move(start)),
-      columnBrush_(CreateSolidBrush(kColumnColour)) {
+      columnBrush_(CreateSolidBrush(kColumnColor)) {
     win::LoadRichText();
     const win::FormLook look{L"VWizardForm", L"", WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN,
                              WS_EX_CONTROLPARENT, nullptr};
@@ -84,19 +84,19 @@ frmWizard::frmWizard(const PageBook& book, WizardStart start)
 }
 
 void frmWizard::BindFrame() {
-    picHeader.Bind(*this, kHeaderId, L"Static", SS_OWNERDRAW | SS_NOTIFY);
+    picHeader.Bind(*this, kHeaderId, SS_OWNERDRAW | SS_NOTIFY);
     const win::Twips headingRight = book_.hasSteps ? layout::kStepLeft : layout::kTextRight;
     picHeader.Place(layout::kColumnWidth, 0_tw, headingRight - layout::kColumnWidth,
                     layout::kHeaderHeight - layout::kLineWidth);
-    lblStep.Bind(*this, kStepId, L"Static", SS_RIGHT | SS_NOPREFIX);
+    lblStep.Bind(*this, kStepId, SS_RIGHT | SS_NOPREFIX);
     lblStep.Place(layout::kStepLeft, 210_tw, layout::kStepWidth, layout::kPromptHeight);
-    txtInfo.Bind(*this, kInfoId, win::RichText::kClassName, (win::RichText::kStyle & ~WS_VSCROLL) | WS_GROUP);
+    txtInfo.Bind(*this, kInfoId, 0);
     txtInfo.Place(layout::kTextLeft - layout::kTextInset, layout::kTextTop, layout::kTextWidth,
                   layout::kTextHeight);
-    picMain.Bind(*this, kMainId, L"Static", SS_LEFT);
+    picMain.Bind(*this, kMainId);
     picMain.Place(0_tw, layout::kMainTop, layout::kWindowWidth, layout::kMainHeight);
-    lblKey.Bind(*this, kKeyId, L"Static", SS_LEFT);
-    lblCustInfo.Bind(*this, kCustInfoId, L"Static", SS_LEFT);
+    lblKey.Bind(*this, kKeyId);
+    lblCustInfo.Bind(*this, kCustInfoId);
     // The first windows made are the first in reading and tab order; the heading names the text behind it.
     if (book_.hasSteps) lblStep.Handle();
     picHeader.Handle();
@@ -117,12 +117,12 @@ void frmWizard::BindPictures() {
         {&picVarnel, kVarnelId, L"Varnel", 120_tw, layout::kRowTop - 480_tw, 1200_tw, 360_tw},
     };
     for (const Place& place : places) {
-        place.picture->Bind(*this, place.id, L"Static", SS_OWNERDRAW);
+        place.picture->Bind(*this, place.id, SS_OWNERDRAW);
         place.picture->Name(place.name);
         place.picture->Place(place.left, place.top, place.width, place.height);
     }
     for (std::size_t i = 0; i < picAppIcon.size(); ++i) {
-        picAppIcon[i].Bind(*this, kAppIconId + static_cast<int>(i), L"Static", SS_OWNERDRAW | SS_NOTIFY);
+        picAppIcon[i].Bind(*this, kAppIconId + static_cast<int>(i), SS_OWNERDRAW | SS_NOTIFY);
         picAppIcon[i].Name(kAppNames[i]);
         picAppIcon[i].ToolTip(kAppNames[i]);
         picAppIcon[i].Icon(IDI_APP_ICON + static_cast<int>(i));
@@ -131,7 +131,7 @@ void frmWizard::BindPictures() {
 
 void frmWizard::BindButtons() {
     struct Row {
-        win::Button* button;
+        win::PushButton* button;
         int id;
         const wchar_t* caption;
     };
@@ -143,7 +143,7 @@ void frmWizard::BindButtons() {
     };
     int fromRight = static_cast<int>(std::size(rows));
     for (const Row& row : rows) {
-        row.button->Bind(*this, row.id, L"Button", BS_PUSHBUTTON | BS_NOTIFY | WS_GROUP | WS_TABSTOP);
+        row.button->Bind(*this, row.id);
         row.button->Place(layout::ButtonLeft(--fromRight), layout::kButtonTop, layout::kButtonWidth,
                           layout::kButtonHeight);
         row.button->Text(row.caption);

@@ -51,7 +51,7 @@ class frmWizard : public win::Form {
     win::Label lblCustInfo;
     win::RichText txtInfo;
     InputPool pool;
-    win::Button cmdSkip, cmdBack, cmdNext, cmdCancel;
+    win::PushButton cmdSkip, cmdBack, cmdNext, cmdCancel;
 
     // State that pages and navigation share.
     std::int16_t PageNo = 1;

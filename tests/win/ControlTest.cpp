@@ -13,9 +13,9 @@ struct TestForm : win::Form {
     TestForm() {
         Create({L"VarnelTestForm", L"", WS_OVERLAPPEDWINDOW, WS_EX_CONTROLPARENT, nullptr},
                win::FontFor(win::FontUse::Body), 600, 400);
-        button.Bind(*this, 100, L"Button", BS_PUSHBUTTON | BS_NOTIFY | WS_TABSTOP);
+        button.Bind(*this, 100);
     }
-    win::Button button;
+    win::PushButton button;
 };
 
 // A window is made at its first use; what was set before holds. An exception that left the window procedure

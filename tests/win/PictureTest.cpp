@@ -22,8 +22,8 @@ TEST(Picture, HasItsPlaceAndSizeAtEachResolution) {
             const LONG right = 7 + at96.cx * dpi / 96, bottom = 9 + at96.cy * dpi / 96;
             EXPECT_EQ(picture.Size().cx, right - 7);
             EXPECT_EQ(picture.Size().cy, bottom - 9);
-            EXPECT_EQ(canvas.At(right - 1, 9), kColumnColour);
-            EXPECT_EQ(canvas.At(right - 1, bottom - 1), kColumnColour);
+            EXPECT_EQ(canvas.At(right - 1, 9), kColumnColor);
+            EXPECT_EQ(canvas.At(right - 1, bottom - 1), kColumnColor);
             EXPECT_EQ(canvas.At(right, 9), kWhite);
             EXPECT_EQ(canvas.At(6, 9), kWhite);
             EXPECT_EQ(canvas.At(right - 1, bottom), kWhite);

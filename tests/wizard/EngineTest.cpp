@@ -99,7 +99,7 @@ struct EarForm : win::Form {
     EarForm() {
         Create({L"VarnelEarForm", L"", WS_OVERLAPPEDWINDOW, WS_EX_CONTROLPARENT, nullptr}, nullptr, 600, 400);
         for (std::optional<Ear>* each : {&first, &second}) {
-            each->emplace().Bind(*this, 100, L"Static", SS_LEFT);
+            each->emplace().Bind(*this, 100);
             (*each)->Handle();
         }
     }
