@@ -35,7 +35,7 @@ RECT Control::Area() const {
 HWND Control::Handle() {
     if (hwnd_) return hwnd_;
     area_ = Area();
-    isShown_ = visible_ && !form_->IsArranging();
+    isShown_ = visible_ && !form_->IsArranging(); // it would flash up where it does not yet belong
     hwnd_ = CreateWindowExW(
         extendedStyle_, className_, text_.c_str(), WS_CHILD | style_ | (isShown_ ? WS_VISIBLE : 0),
         area_.left, area_.top, area_.right - area_.left, area_.bottom - area_.top, form_->Hwnd(),
@@ -92,7 +92,7 @@ void Control::Enabled(bool enabled) { EnableWindow(Handle(), enabled); }
 void Control::Text(std::wstring_view text) {
     if (!hwnd_)
         text_ = text;
-    else if (Text() != text)
+    else if (Text() != text) // or a control that shows it already would paint itself again
         SetWindowTextW(hwnd_, std::wstring(text).c_str());
 }
 
@@ -123,6 +123,7 @@ void Control::Follows(Control& previous) {
     Changed();
 }
 
+// The user data of these windows is ours: the system's classes keep theirs in bytes of their own.
 void Control::InterceptMessages() {
     SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     systemProcedure_ = reinterpret_cast<WNDPROC>(
@@ -181,6 +182,7 @@ void ListBox::Fill(const std::vector<std::wstring>& items) {
     Send(WM_SETREDRAW, TRUE);
 }
 
+// The length is asked for first: the message itself takes no size and would write beyond any buffer.
 std::wstring ListBox::Item(int index) {
     const auto length = Send(LB_GETTEXTLEN, static_cast<WPARAM>(index));
     if (length <= 0) return {};
@@ -189,6 +191,7 @@ std::wstring ListBox::Item(int index) {
     return item;
 }
 
+// LB_ERR, below 0, for a list in which only one can be selected.
 int ListBox::SelectedCount() { return std::max(0, static_cast<int>(Send(LB_GETSELCOUNT))); }
 
 void ComboBox::Made() {
@@ -207,6 +210,7 @@ void ComboBox::Add(std::wstring_view item) {
     Send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(std::wstring(item).c_str()));
 }
 
+// The length may be more than the text has, never less; the count that comes back is right.
 std::wstring WindowText(HWND window) {
     const int length = GetWindowTextLengthW(window);
     std::wstring text(static_cast<std::size_t>(length), L'\0');

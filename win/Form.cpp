@@ -16,7 +16,8 @@ ATOM RegisterFormClass(const FormLook& look, WNDPROC procedure) {
     WNDCLASSEXW formClass{};
     formClass.cbSize = sizeof formClass;
     formClass.lpfnWndProc = procedure;
-    formClass.cbWndExtra = DLGWINDOWEXTRA;
+    formClass.cbWndExtra =
+        DLGWINDOWEXTRA; // the dialog procedure keeps the default button and the focus there
     formClass.hInstance = GetModuleHandleW(nullptr);
     formClass.hIcon = look.icon;
     formClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
@@ -150,6 +151,7 @@ LRESULT CALLBACK Form::WindowProcedure(HWND window, UINT message, WPARAM wParam,
         SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(form));
         form->hwnd_ = window;
     }
+    // A few messages come before there is a form, and some after it is gone.
     auto* form = reinterpret_cast<Form*>(GetWindowLongPtrW(window, GWLP_USERDATA));
     if (!form || !form->hwnd_) return DefDlgProcW(window, message, wParam, lParam);
     return form->Dispatch(message, wParam, lParam);
@@ -209,6 +211,8 @@ LRESULT Form::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     return DefDlgProcW(hwnd_, message, wParam, lParam);
 }
 
+// Without a control it is a key: Esc, or the close box of a form that leaves WM_CLOSE to the dialog
+// procedure.
 LRESULT Form::OnCommand(WPARAM wParam, LPARAM lParam) {
     Control* control = lParam ? ControlOf(reinterpret_cast<HWND>(lParam)) : nullptr;
     if (!control) {
@@ -227,6 +231,7 @@ LRESULT Form::OnControlColor(HDC dc) {
     return reinterpret_cast<LRESULT>(Background());
 }
 
+// Most runs never need them: the keyboard shows none.
 void Form::AddToolTips() {
     if (toolTips_) return;
     toolTips_ =
@@ -244,7 +249,8 @@ void Form::SetToolTip(Control& control) {
     tool.hwnd = hwnd_;
     tool.uId = reinterpret_cast<UINT_PTR>(control.Handle());
     tool.lpszText = control.toolTip_.data();
-    SendMessageW(toolTips_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+    SendMessageW(toolTips_, TTM_DELTOOLW, 0,
+                 reinterpret_cast<LPARAM>(&tool)); // one without a text would show empty
     if (!control.toolTip_.empty()) SendMessageW(toolTips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 

@@ -19,6 +19,7 @@ Picture::Picture(int number, int dpi) : stored_(FindBitmap(number + PictureStep(
 
 void Picture::Draw(HDC dc, int x, int y) const {
     if (!stored_) return;
+    // Behind the header the colors that are counted, behind them the pixels.
     const auto* colors = reinterpret_cast<const BYTE*>(stored_) + stored_->biSize;
     const BYTE* pixels = colors + stored_->biClrUsed * sizeof(RGBQUAD);
     const int mode = SetStretchBltMode(dc, HALFTONE);

@@ -30,6 +30,7 @@ template <class Group> void BindGroup(Group& group, win::Form& form, int firstId
 } // namespace
 
 void InputPool::Bind(win::Form& form) {
+    // The others belong to the group of the first one: the arrow keys go round in it.
     optUserInput[0].Bind(form, kOptionId, WS_GROUP | WS_TABSTOP);
     for (std::size_t i = 1; i < optUserInput.size(); ++i)
         optUserInput[i].Bind(form, kOptionId + static_cast<int>(i));
@@ -71,6 +72,7 @@ void InputPool::SetInputFont(bool oldStyle) {
 InputColumn::InputColumn(frmWizard& form)
     : form_(form), previous_(&form.txtInfo), top_(form.txtInfo.Bottom() + layout::kGapAfterText) {}
 
+// Order counts as much as place: Tab, screen readers and the prompts' access keys all go by it.
 void InputColumn::Put(win::Control& control, win::Twips width, win::Twips height, win::Twips gap) {
     control.Place(left_, top_, width, height);
     control.Follows(*previous_);
@@ -81,7 +83,7 @@ void InputColumn::Put(win::Control& control, win::Twips width, win::Twips height
 
 win::Label& InputColumn::Prompt(std::size_t index, std::wstring_view text, int lines) {
     auto& prompt = form_.pool.lblUserPrompt[index];
-    prompt.Text(text);
+    prompt.Text(text); // with its access key: that leads to the input behind it
     Put(prompt, width_, layout::kPromptHeight * lines, layout::kGapAfterPrompt);
     return prompt;
 }
@@ -114,6 +116,7 @@ win::TextBox& InputColumn::TextBox(std::size_t index, std::wstring_view text, in
     return box;
 }
 
+// Half a line at the lower edge would look like a list that goes on.
 win::ListBox& InputColumn::List(std::size_t index, win::Twips height) {
     auto& list = form_.pool.lstUserInput[index];
     const int edges = GetSystemMetrics(SM_CYEDGE) * 2;
@@ -127,7 +130,8 @@ win::ComboBox& InputColumn::DropDown() {
     auto& combo = form_.pool.cmbUserInput;
     combo.onChange = nullptr; // of another page
     const win::Twips top = top_;
-    Put(combo, width_, layout::kDropDownHeight, win::Twips{});
+    Put(combo, width_, layout::kDropDownHeight,
+        win::Twips{}); // the height of a combo box is that of its open list
     top_ = top + layout::kTextBoxHeight + layout::kGapBetweenGroups; // closed, it is one line high
     return combo;
 }
@@ -170,6 +174,7 @@ void InputColumn::DropDown(std::span<const std::wstring_view> items, std::int16_
     combo.Index(selected);
 }
 
+// A group without a mark counts as the first one, which the page then shows marked.
 std::int16_t SelectedOption(InputPool& pool, std::size_t count) {
     for (std::size_t i = 0; i < count; ++i)
         if (pool.optUserInput[i].Checked()) return static_cast<std::int16_t>(i);

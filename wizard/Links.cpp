@@ -16,7 +16,7 @@ bool StartLink(const LinkRow& link) {
     case LinkAction::Topic:
         ShowHelpTopic(link.file, detail);
         return true;
-    default:
+    default: // these need the form
         return false;
     }
 }

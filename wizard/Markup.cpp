@@ -54,7 +54,8 @@ void RunPass(RichText& text, const TagPass& pass) {
     while (const auto opening = FindTag(text.Text(), pass.open, start)) {
         start = *opening;
         Replace(text, start, pass.open.size(), L"");
-        const auto closing = FindTag(text.Text(), pass.close, start);
+        const auto closing =
+            FindTag(text.Text(), pass.close, start); // read anew: the text has become shorter
         if (!closing) continue;
         text.SelLength(*closing - start);
         pass.look(text);

@@ -26,11 +26,13 @@ constexpr Twips kAroundText = 240_tw;
 constexpr Twips kButtonRow = 930_tw; // from the window's bottom
 constexpr Twips kButtonGap = 120_tw;
 
+// Rounded down, unlike the layout's own lengths: half a pixel of the work area is no room.
 constexpr Twips FromPixels(int pixels, int dpi) { return {pixels * win::kTwipsPerInch / dpi}; }
 
 // One direction: the middle between `from` and `to`, then held between the edges of the work area.
 Twips Place(Twips length, Twips from, Twips to, Twips areaStart, Twips areaEnd) {
     Twips start = from + (to - from) / 2 - length / 2;
+    // Below 0 it would pass the screen, below the area only a task bar: both are put at the same place.
     if (start < areaStart) start = kInset;
     if (start + length > areaEnd) start = areaEnd - length - kInset;
     return start;

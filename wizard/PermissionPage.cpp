@@ -11,6 +11,7 @@ void PageConfigDisabled(frmWizard& form) {
         L"For more information about permissions, open the \"Security\" tab in Varnel DNC Configuration "
         L"(VConfig), and then click <b>Help</b>.");
     form.cmdCancel.Text(L"&Close");
+    // Enter has to press the one button that is left.
     form.cmdCancel.Focus();
     form.DefaultButton(form.cmdCancel);
     form.cmdBack.Visible(false);

@@ -64,10 +64,11 @@ frmMessage::frmMessage() {
 
 std::int16_t frmMessage::Show(const std::wstring& message, std::int16_t buttons, std::int16_t size,
                               const std::wstring& title, HWND owner) {
+    // Asked anew each time: a task bar may have been moved.
     const MessageScreen screen{AreaOf(win::WorkArea()), win::Dpi(), GetSystemMetrics(SM_CYCAPTION)};
     PlaceControls(LayOutMessage(size, SetOf(buttons).count, screen, AreaOf(owner)));
     SetButtons(buttons);
-    txtMessage.Text(message);
+    txtMessage.Text(message); // whole, tags and all: the passes work on the control
     FormatText(txtMessage);
     txtMessage.ScrollToTop();
     SetWindowTextW(Hwnd(), title.empty() ? kApplicationTitle : (locations.ExeName + L" - " + title).c_str());

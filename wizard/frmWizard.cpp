@@ -156,7 +156,7 @@ void frmWizard::BindButtons() {
 
 void frmWizard::Form_Load() {
     isLoading_ = true;
-    SetCurrentDirectoryW(locations.AppPath.c_str());
+    SetCurrentDirectoryW(locations.AppPath.c_str()); // companions inherit it
     CleanRunOnce();
     pool.fraContainer.Top(picMain.Top() + 1320_tw);
     SetWindowTextW(Hwnd(), start_.title.c_str());
@@ -165,6 +165,7 @@ void frmWizard::Form_Load() {
     (this->*book_.picture).Visible(true);
     picVarnel.Visible(true);
     picLogo.Visible(true);
+    // Before the window comes up: what is asked for here is shown on the first page.
     book_.load(*this);
     ShowModeIcon();
     pool.ClearPage(txtInfo);
@@ -175,7 +176,7 @@ void frmWizard::Form_Load() {
     txtInfo.Text(L"Initializing...");
     txtInfo.Visible(true);
     ShowWindow(Hwnd(), SW_SHOWNORMAL);
-    win::PumpPendingMessages();
+    win::PumpPendingMessages(); // painted before anything that may take its time: the user sees it at once
 
     WriteStartUpKeys();
     ConfirmExit = true;
@@ -247,7 +248,7 @@ RECT frmWizard::PageArea() const {
 
 LRESULT frmWizard::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
-    case WM_ERASEBKGND:
+    case WM_ERASEBKGND: // three grounds in one window, none of which is a control
         PaintBackground(reinterpret_cast<HDC>(wParam));
         return TRUE;
     case WM_ACTIVATE:
@@ -265,7 +266,7 @@ LRESULT frmWizard::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         return 0;
     case WM_QUERYENDSESSION: // an update that only closes the program is not the user's wish to leave
         return (lParam & ENDSESSION_CLOSEAPP) != 0 || Form_QueryUnload();
-    case WM_ENDSESSION:
+    case WM_ENDSESSION: // asked before, and every program has agreed
         if (wParam) Form_Unload();
         return 0;
     default:
@@ -285,6 +286,7 @@ void frmWizard::PaintBackground(HDC dc) {
     FillArea(dc, 0_tw, layout::kRowTop, right, layout::kRowTop + line, GetSysColorBrush(COLOR_BTNSHADOW));
 }
 
+// Whatever has an owner-drawn style: heading, pictures, icons, and else it is a link.
 void frmWizard::OnDrawItem(win::Control& control, const DRAWITEMSTRUCT& item) {
     if (&control == &picHeader) return DrawHeading(item);
     if (auto* picture = dynamic_cast<win::PictureArea*>(&control)) return picture->Draw(item);
