@@ -3,6 +3,7 @@
 #include "app/CommandLine.h"
 #include "app/Hardening.h"
 #include "app/SingleInstance.h"
+#include "app/Suite.h"
 #include "app/modLocations.h"
 #include "app/modSecurity.h"
 #include "ftw/FtwPages.h"
@@ -27,7 +28,7 @@ void Main(const wchar_t* commandLine) {
     InstanceClaim claim; // kept until the program ends
     if (FindRunningWizard(startUp.WizardTitle) || !claim.Take(startUp.WizardMode, startUp.WizardTitle))
         return;
-    startUp.SamplesFolder = locations.SamplesPath;
+    startUp.SamplesFolder = locations.ProgramFolder + suite::kSamplesFolder;
     startUp.MessageTitlePrefix = L"VWizard - ";
     TestConfigAccess();
     frmWizard form(startUp.WizardMode == kNewDevice ? NdwBook() : FtwBook(),
