@@ -4,6 +4,7 @@
 
 namespace {
 
+// A character beyond 16 bits is looked at whole: its halves survive under no code page.
 bool IsPair(std::wstring_view text) {
     return text.size() >= 2 && IS_HIGH_SURROGATE(text[0]) && IS_LOW_SURROGATE(text[1]);
 }
@@ -25,6 +26,7 @@ std::optional<std::wstring> FirstUnfit(std::wstring_view text, std::size_t mostB
 
 } // namespace
 
+// No flags and no default character: where the code page is UTF-8, a call with any of them fails.
 std::string ToAnsi(std::wstring_view text, unsigned codePage) {
     if (text.empty()) return {};
     const int length = static_cast<int>(text.size());
