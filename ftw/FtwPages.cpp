@@ -13,6 +13,7 @@ FtwSession ftwSession;
 
 namespace {
 
+// The progress is kept as it was at load: what this run adds must not open a choice that was closed at first.
 void Load(frmWizard&) {
     ftwSession = {};
     ftwSession.maxProgress =
@@ -30,6 +31,7 @@ bool TakesOverNext(frmWizard& form) {
     return true;
 }
 
+// No other program waits for anything of this wizard.
 void Exiting(frmWizard&) {}
 
 constexpr PageBook kBook{
