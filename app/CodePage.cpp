@@ -48,6 +48,7 @@ std::wstring FromAnsi(std::string_view text, unsigned codePage) {
 unsigned char ToAnsiByte(wchar_t character) {
     if (character < 0x80) return static_cast<unsigned char>(character); // the same in every code page
     const std::string bytes = ToAnsi({&character, 1});
+    // A second byte would move all that stands behind it in a record of fixed widths.
     return static_cast<unsigned char>(bytes.size() == 1 ? bytes[0] : '?');
 }
 

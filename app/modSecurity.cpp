@@ -108,6 +108,7 @@ std::int16_t TestConfigAccess() {
 ConfigAccess FindConfigAccess(const std::wstring& settingsFolder) {
     const std::wstring iniFile = settingsFolder + suite::kIniFile;
     ConfigAccess access;
+    // Only noted, like the two switches: what counts is whether the write succeeds, whoever makes it.
     access.IsAdmin = IsUserAnAdmin() != FALSE;
     const auto security = static_cast<std::int16_t>(
         NumericValue(ReadIniString(suite::kGeneral, suite::kSecurity, L"", iniFile)));
