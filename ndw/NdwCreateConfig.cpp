@@ -48,8 +48,8 @@ std::wstring TooLongMessage(std::size_t excess, std::size_t length) {
     return message;
 }
 
-// What is wrong with a name, "" when nothing is. The last checks keep the file from going to a port or
-// under another name than the one typed.
+// What is wrong with a name, "" when nothing is. The last checks keep the file from going to a port, and the
+// name from meaning another one where it stands without its extension or in 8 bits.
 std::wstring NameProblem(const std::wstring& name, const std::wstring& path) {
     if (name.empty()) return L"You must specify a valid name to continue.";
     // Before the file is looked for: with a backslash in the name that would be a look into another folder.
