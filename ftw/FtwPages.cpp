@@ -26,6 +26,7 @@ void BeforeShow(frmWizard& form) { ShowAppIcons(form, kNoAppIcon); }
 // The chosen setup mode decides where Next leads, and whether the wizard goes on at all. That page is not
 // counted as progress.
 bool TakesOverNext(frmWizard& form) {
+    // Asked at every Next; the other pages leave by their rows.
     if (form.PageNo != kFtwChoosePage) return false;
     ChooseInstallType(form);
     return true;

@@ -50,7 +50,6 @@ frmChoice::frmChoice() {
     for (std::size_t i = 0; i < optChoice.size(); ++i)
         optChoice[i].Bind(*this, 101 + static_cast<int>(i), L"Button",
                           BS_AUTORADIOBUTTON | BS_MULTILINE | BS_TOP | (i == 0 ? WS_GROUP | WS_TABSTOP : 0));
-    // Of a group of its own: the arrow keys stay among the options.
     cmdOK.Bind(*this, IDOK, L"Button", BS_PUSHBUTTON | BS_NOTIFY | WS_GROUP | WS_TABSTOP);
     cmdOK.onClick = [this] { cmdOK_Click(); };
     PlaceControls();
@@ -71,7 +70,6 @@ void frmChoice::PlaceControls() {
     cmdOK.Text(L"OK");
     cmdOK.Visible(true);
     DefaultButton(cmdOK);
-    // Made to fit what stands in it, then put into the middle of what the task bar leaves free.
     RECT window{0, 0, win::Px(kWidth + kMargin * 2), win::Px(cmdOK.Bottom() + kMargin)};
     AdjustWindowRectEx(&window, kStyle, FALSE, kExtendedStyle);
     const LONG width = window.right - window.left;

@@ -190,9 +190,9 @@ void frmIcons::MoveOver(HWND owner) {
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-// All six slots, whatever has changed: they are drawn sooner than a difference would be found.
 void frmIcons::Show(const IconStrip& strip) {
     strip_ = strip;
+    // All six slots, whatever has changed: they are drawn sooner than a difference would be found.
     UpdateIcons();
     lblnIcons.Text(std::to_wstring(strip_.count) + L" icons");
     lblIconName.Text(icons_->Key(strip_.selected));
