@@ -4,6 +4,7 @@
 
 namespace {
 
+// A character beyond 16 bits is looked at whole: its halves survive under no code page.
 bool IsPair(std::wstring_view text) {
     return text.size() >= 2 && IS_HIGH_SURROGATE(text[0]) && IS_LOW_SURROGATE(text[1]);
 }
@@ -25,6 +26,7 @@ std::optional<std::wstring> FirstUnfit(std::wstring_view text, std::size_t mostB
 
 } // namespace
 
+// No flags and no default character: where the code page is UTF-8, a call with any of them fails.
 std::string ToAnsi(std::wstring_view text, unsigned codePage) {
     if (text.empty()) return {};
     const int length = static_cast<int>(text.size());
@@ -46,6 +48,7 @@ std::wstring FromAnsi(std::string_view text, unsigned codePage) {
 unsigned char ToAnsiByte(wchar_t character) {
     if (character < 0x80) return static_cast<unsigned char>(character); // the same in every code page
     const std::string bytes = ToAnsi({&character, 1});
+    // A second byte would move all that stands behind it in a record of fixed widths.
     return static_cast<unsigned char>(bytes.size() == 1 ? bytes[0] : '?');
 }
 

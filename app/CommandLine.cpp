@@ -14,6 +14,7 @@ bool Occurs(std::wstring_view text, std::wstring_view word) {
 
 } // namespace
 
+// The text is not taken apart into words: quotation marks and whatever stands around a switch cannot hide it.
 StartUpState ParseCommandLine(std::wstring_view text) {
     StartUpState state;
     const bool isNewDevice = Occurs(text, L"/NDW");

@@ -8,6 +8,7 @@
 
 namespace {
 
+// Known by name: finding out by opening such a file would open the device.
 constexpr std::array<std::wstring_view, 6> kDevices = {L"CON", L"PRN", L"AUX", L"NUL", L"CONIN$", L"CONOUT$"};
 constexpr std::array<std::wstring_view, 2> kNumberedDevices = {L"COM", L"LPT"};
 // Windows takes superscript digits for digits.
@@ -30,6 +31,7 @@ bool IsReservedName(std::wstring_view name) {
            kDeviceNumbers.find(stem.back()) != std::wstring_view::npos;
 }
 
+// Also 128 to 159: whatever letters a code page has there, in wide text they are controls.
 bool HasControlChar(std::wstring_view text) {
     return std::any_of(text.begin(), text.end(), [](wchar_t c) { return c < 32 || (c >= 127 && c < 160); });
 }
@@ -39,6 +41,7 @@ bool EndsInDot(std::wstring_view name) { return !name.empty() && name.back() == 
 std::optional<std::wstring> CheckedExtension(std::wstring_view typed) {
     std::wstring extension = TrimBlanks(typed);
     if (extension.starts_with(L'.')) extension.erase(0, 1);
+    // By code: the library's own test follows a locale and lets in letters that no other computer need have.
     const auto isAllowed = [](wchar_t c) {
         return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z') || (c >= L'0' && c <= L'9');
     };

@@ -23,7 +23,8 @@ bool IsReservedName(std::wstring_view name);
 // Below code 32, or 127 to 159.
 bool HasControlChar(std::wstring_view text);
 
-// Windows drops dots at the end of a name, so such a name would make a file of another name.
+// Windows drops dots at the end of a file name. A configuration's extension keeps them, but where the name
+// stands alone it would mean another file.
 bool EndsInDot(std::wstring_view name);
 
 // The receive file extension as typed by the user: blanks at both ends and then one leading "." are

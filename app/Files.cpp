@@ -27,6 +27,7 @@ bool ShellOperation(UINT function, const std::wstring& from, const std::wstring*
     return SHFileOperationW(&operation) == 0 && !operation.fAnyOperationsAborted;
 }
 
+// As the file system compares names: without case.
 bool HasExtension(const std::wstring& name, const std::wstring& extension) {
     return name.size() >= extension.size() &&
            lstrcmpiW(name.c_str() + name.size() - extension.size(), extension.c_str()) == 0;
@@ -34,6 +35,7 @@ bool HasExtension(const std::wstring& name, const std::wstring& extension) {
 
 } // namespace
 
+// By its attributes, without opening it: a file that another program keeps to itself exists, too.
 bool FileExists(const std::wstring& path) {
     if (TrimBlanks(SplitPath(path, kNameWithoutExtension)).empty()) return false;
     const DWORD attributes = GetFileAttributesW(path.c_str());
@@ -59,6 +61,7 @@ std::vector<std::wstring> ListFiles(const std::wstring& folder, const std::wstri
     return names;
 }
 
+// Each path of the list is measured for itself, the one behind the last NUL included.
 bool FitsShell(const std::wstring& files) {
     std::size_t start = 0;
     for (std::size_t end = 0; end != files.npos; start = end + 1) {
@@ -68,6 +71,7 @@ bool FitsShell(const std::wstring& files) {
     return !files.empty() && files.front() != L'\0';
 }
 
+// With nothing but undo the shell asks before it replaces a file, and shows how far it is.
 bool CopyFiles(const std::wstring& files, const std::wstring& folder, std::int16_t flags, HWND owner) {
     return ShellOperation(FO_COPY, files, &folder, flags == 0 ? FOF_ALLOWUNDO : static_cast<unsigned>(flags),
                           owner);

@@ -59,6 +59,7 @@ void RunCommandLine(const std::wstring& commandLine) {
     AllowSetForegroundWindow(process.dwProcessId);
 }
 
+// Quotation marks, blanks or not: without them Windows would first try what stands before the first blank.
 void RunProgram(const std::wstring& file, const std::wstring& arguments, const std::wstring& folder) {
     RunCommandLine(Quoted(folder + file) + arguments);
 }
@@ -67,6 +68,7 @@ void OpenDocument(const std::wstring& file, const std::wstring& arguments, const
     OpenByShell(Quoted(folder + file), arguments);
 }
 
+// The viewer is the system's and goes without a folder. Topics have blanks, too: one pair of marks for both.
 void ShowHelpTopic(const std::wstring& helpFile, const std::wstring& topic, const std::wstring& folder) {
     RunCommandLine(suite::kHelpViewer + (L" " + Quoted(folder + helpFile + L"::/" + topic)));
 }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <limits>
 
+// By hand: the library's conversions also skip tabs, take other bases, and say too little of a number that
+// does not fit.
 std::int32_t NumericValue(std::wstring_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(L' '), text.size()));
     const bool negative = !text.empty() && text.front() == L'-';

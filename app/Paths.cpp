@@ -4,6 +4,7 @@ namespace {
 
 bool IsLetter(wchar_t c) { return (c >= L'A' && c <= L'Z') || (c >= L'a' && c <= L'z'); }
 
+// In "C:Mill.nc" the name begins behind the colon: that is a file of the drive's current folder.
 std::wstring_view Part(std::wstring_view path, std::int16_t part) {
     const std::size_t drive = path.size() >= 2 && IsLetter(path[0]) && path[1] == L':' ? 2 : 0;
     const std::size_t backslash = path.rfind(L'\\');

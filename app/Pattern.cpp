@@ -64,7 +64,7 @@ bool MatchesPattern(std::wstring_view text, std::wstring_view pattern) {
         if (element == L"*") {
             starPattern = ++p;
             starText = t;
-        } else if (element == L"[]") {
+        } else if (element == L"[]") { // stands for nothing: the text waits
             p += element.size();
         } else if (t < text.size() && FitsElement(element, text[t])) {
             p += element.size();

@@ -8,7 +8,7 @@
 
 namespace {
 
-// The one set of rights that every program of the suite opens its keys with, reading or not.
+// Every right to the values, for a mere read as well: what this user could not delete is not found at all.
 constexpr REGSAM kKeyAccess = 0x2003F;
 
 win::UniqueKey OpenKey(HKEY root, const std::wstring& subKey) {

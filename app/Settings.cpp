@@ -13,6 +13,7 @@
 
 namespace {
 
+// A buffer without a NUL is one that the call has not written to: no value.
 std::wstring ReadValue(const std::wstring& file, const std::wstring& section, const std::wstring& key) {
     char buffer[255];
     std::fill(std::begin(buffer), std::end(buffer), ' ');
@@ -54,6 +55,7 @@ std::wstring ReadWholeIniString(const std::wstring& section, const std::wstring&
         const std::size_t length =
             GetPrivateProfileStringA(ToAnsi(section).c_str(), ToAnsi(key).c_str(), "", buffer.data(),
                                      static_cast<DWORD>(buffer.size()), ToAnsi(file).c_str());
+        // A value that does not fit is cut to one byte less than the buffer; nothing else tells of it.
         const bool isCut = length + 1 >= buffer.size();
         if (!isCut || buffer.size() >= kLongest) return FromAnsi({buffer.data(), length});
         buffer.resize(buffer.size() * 2);
@@ -83,6 +85,7 @@ win::AppError IniWriteError(const std::wstring& file) {
 
 void ReportIniWriteError(const std::wstring& file) { throw IniWriteError(file); }
 
+// The result means nothing: this form of the call returns FALSE after a success, too.
 void FlushIni(const std::wstring& file) {
     WritePrivateProfileStringA(nullptr, nullptr, nullptr, ToAnsi(file).c_str());
 }

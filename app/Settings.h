@@ -2,8 +2,8 @@
 
 // The suite's settings file, VarnelDnc.ini: 8-bit ANSI text, read and written only through the system's
 // profile functions. `file` is that file unless the caller names another one. Reading never fails: a missing
-// file, section or key, and an empty value, are the caller's default. A value is read up to 254 characters,
-// as all programs of the suite do.
+// file, section or key, and an empty value, are the caller's default. A value is read up to 254 characters
+// unless a function says otherwise.
 
 #include "app/modLocations.h"
 #include "win/AppError.h"

@@ -41,6 +41,7 @@ HWND LocateWizardWindow(const std::wstring& pattern, HWND& start) {
     for (HWND window = GetWindow(start, GW_CHILD); window; window = GetWindow(window, GW_HWNDNEXT)) {
         HWND subtree = window;
         if (const HWND found = LocateWizardWindow(pattern, subtree)) return found;
+        // The class is asked only of those few whose caption fits.
         if (!MatchesPattern(CaptionOf(window), pattern)) continue;
         if (GetWindowClass(window).starts_with(kWizardClassPrefix)) return window;
     }
@@ -48,13 +49,14 @@ HWND LocateWizardWindow(const std::wstring& pattern, HWND& start) {
 }
 
 std::wstring GetWindowClass(HWND window) {
-    // One place more than the count that the call is told, which the suite's programs give as 256.
+    // The call may fill 256 of them, and no class has a longer name.
     wchar_t buffer[257];
     std::fill(std::begin(buffer), std::end(buffer), L' ');
     const int length = GetClassNameW(window, buffer, 256);
     return {buffer, static_cast<std::size_t>(std::max(0, length))};
 }
 
+// The mutex tells of a copy, not of its window: that may still be to come, and is looked for again and again.
 bool InstanceClaim::Take(std::int16_t mode, const std::wstring& title) {
     const std::wstring name = L"Local\\VWizard.Mode" + std::to_wstring(mode);
     mutex_ = win::UniqueKernelHandle(CreateMutexW(nullptr, TRUE, name.c_str()));

@@ -1,7 +1,8 @@
 #pragma once
 
 // What the suite's programs, documents, files, settings and registry values are called: every name stands
-// here and nowhere else. File names are not case-sensitive; the spellings are those of the suite's own menus.
+// here and nowhere else. A file that two places spell in two ways has two names here; Windows finds it by
+// either.
 
 namespace suite {
 

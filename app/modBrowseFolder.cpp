@@ -6,6 +6,7 @@
 
 namespace {
 
+// The shell itself would begin with the desktop, from where the disks are two clicks away.
 constexpr wchar_t kUsualStart[] = L"C:\\";
 
 } // namespace

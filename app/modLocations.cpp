@@ -13,6 +13,7 @@
 
 namespace {
 
+// Changed by UseLocations alone; everybody else has the constant reference below.
 ProgramLocations found;
 
 std::wstring ModulePath() {
@@ -87,6 +88,7 @@ std::wstring GetSpecialFolder(int csidl) {
     return WithBackslash(SpecialFolderPath(nullptr, csidl).value_or(L"")); // some paths have one already
 }
 
+// Looked for anew each time: somebody may have made the folder while the wizard was open.
 std::wstring IconFolder() {
     const std::wstring icons = locations.AppPath + suite::kIconsFolder;
     return FolderExists(icons) ? icons : locations.AppPath;

@@ -16,12 +16,13 @@ struct ProgramLocations {
     std::wstring SamplesPath;         // in AppPath
     std::wstring LocalAppDataPath;    // holds TempPath
     std::wstring CommonAppDataPath;   // holds LogPath, and SettingsPath where the user has moved nothing
-    std::wstring MyDocumentsPath;     //
+    std::wstring MyDocumentsPath;     // read by nobody here, as the last three
     std::wstring CommonDocumentsPath; // holds the default folder of CNC programs
     std::wstring SettingsPath;        // the value of the user's registry, or below CommonAppDataPath
     std::wstring IniFile;             // in SettingsPath
-    std::wstring LogPath;             // this one and the next two are the same set in every program of the
-    std::wstring TempPath;            //   suite; the wizard reads none of them
+    // Part of the set that the suite's programs have in common, like MyDocumentsPath:
+    std::wstring LogPath;
+    std::wstring TempPath;
     std::wstring ProgramFilesPath;
 };
 

@@ -22,6 +22,8 @@ void RunMessageLoop() {
         win::PumpMessage(message);
 }
 
+// The order matters: the search for another copy needs the title, and a copy that ends there must not have
+// touched the settings.
 void Main(const wchar_t* commandLine) {
     InitLocations();
     startUp = ParseCommandLine(commandLine);
@@ -42,6 +44,7 @@ void Main(const wchar_t* commandLine) {
 
 } // namespace
 
+// Any other exception is a fault of the program's own: it ends with code 3, which tells an administrator so.
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR commandLine, int) {
     // Before anything that may load a library or look at a drive.
     RefusePlantedLibraries();

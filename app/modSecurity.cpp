@@ -55,6 +55,7 @@ std::int16_t WriteProbe(const std::wstring& path) {
                : kProbeNotWritten;
 }
 
+// Read back by a handle of its own: what was written is to be found by others.
 std::int16_t ReadProbe(const std::wstring& path) {
     const auto file = Open(path, GENERIC_READ, OPEN_EXISTING);
     if (!file) return kProbeNotOpened;
@@ -87,6 +88,7 @@ std::int16_t WriteAndReadBack(const std::wstring& file) {
 }
 
 std::int16_t TestIniFile(const std::wstring& file) {
+    // Both before the write, which would make a missing file and not say why it failed with the other.
     if (!FileExists(file)) return kIniMissing;
     if (GetFileAttributesW(file.c_str()) & FILE_ATTRIBUTE_READONLY) return kIniReadOnly;
     std::int16_t code = kConfigAccessGranted;
@@ -106,6 +108,7 @@ std::int16_t TestConfigAccess() {
 ConfigAccess FindConfigAccess(const std::wstring& settingsFolder) {
     const std::wstring iniFile = settingsFolder + suite::kIniFile;
     ConfigAccess access;
+    // Only noted, like the two switches: what counts is whether the write succeeds, whoever makes it.
     access.IsAdmin = IsUserAnAdmin() != FALSE;
     const auto security = static_cast<std::int16_t>(
         NumericValue(ReadIniString(suite::kGeneral, suite::kSecurity, L"", iniFile)));

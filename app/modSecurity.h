@@ -32,8 +32,8 @@ enum ConfigAccessCode : std::int16_t {
 };
 
 // Runs the whole test on the suite's settings folder and sets `configAccess`. Needs InitLocations. Shows
-// nothing, throws nothing. Each file is waited for up to half a second while
-// another program has it for itself.
+// nothing, throws nothing. Each file is waited for up to half a second while another program has it for
+// itself.
 std::int16_t TestConfigAccess();
 
 // The same for any folder (ends in a backslash), into the result alone.

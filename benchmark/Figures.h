@@ -12,7 +12,7 @@ struct Bench {
 };
 
 void MeasureStart(const Bench& bench);      // start, private memory
-void MeasurePageChange(const Bench& bench); //
+void MeasurePageChange(const Bench& bench); // beside a property sheet
 void MeasureFiles(const Bench& bench);      // configuration file, samples
 void MeasureSearch(const Bench& bench);     // for another copy
 void MeasureIdle(const Bench& bench);       // timers, wake-ups, processor time

@@ -31,6 +31,7 @@ void PageFtwBackup(frmWizard& form) {
     // clang-format on
 }
 
+// By Next alone, as the page says.
 void LeaveFtwBackup(frmWizard&, Move move) {
     if (move == Move::Next) ShowHelpTopic(suite::kTutorial, L"Protect-investment.htm");
 }
@@ -54,6 +55,7 @@ void PageFtwFinal(frmWizard& form) {
 void LeaveFtwFinal(frmWizard& form, Move move) {
     if (move != Move::Next) return;
     OpenDocument(suite::kNavigator);
+    // All is done: nothing is left to ask about.
     form.ConfirmExit = false;
     form.EndProgram();
 }

@@ -14,6 +14,7 @@ constexpr unsigned kBrowseFlags = BIF_RETURNONLYFSDIRS | BIF_NEWDIALOGSTYLE | BI
 
 void BrowseForLocation(frmWizard& form) {
     const std::wstring folder = BrowseForFolder(L"", form.Hwnd(), L"Select folder", kBrowseFlags);
+    // Who cancels keeps what was typed.
     if (!folder.empty()) form.pool.txtUserInput[0].Text(folder);
 }
 

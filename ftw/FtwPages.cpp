@@ -13,6 +13,7 @@ FtwSession ftwSession;
 
 namespace {
 
+// The progress is kept as it was at load: what this run adds must not open a choice that was closed at first.
 void Load(frmWizard&) {
     ftwSession = {};
     ftwSession.maxProgress =
@@ -25,11 +26,13 @@ void BeforeShow(frmWizard& form) { ShowAppIcons(form, kNoAppIcon); }
 // The chosen setup mode decides where Next leads, and whether the wizard goes on at all. That page is not
 // counted as progress.
 bool TakesOverNext(frmWizard& form) {
+    // Asked at every Next; the other pages leave by their rows.
     if (form.PageNo != kFtwChoosePage) return false;
     ChooseInstallType(form);
     return true;
 }
 
+// No other program waits for anything of this wizard.
 void Exiting(frmWizard&) {}
 
 constexpr PageBook kBook{

@@ -69,6 +69,7 @@ void PageFtwLocation(frmWizard& form) {
     const std::wstring& folders = ftwSession.location.folders;
     column.TextBox(0, folders, static_cast<int>(std::max(kLocationLimit, folders.size()))).Focus();
     column.Links(kFtwLinks, form.PageNo);
+    // Without its parent the folder would be made wherever the program happens to be.
     if (locations.CommonDocumentsPath.empty()) form.pool.lblHyperlink[kDefaultFolderLink].Visible(false);
 }
 
@@ -105,6 +106,7 @@ void LeaveFtwConfirmLocation(frmWizard& form, Move move) {
 // Whatever becomes of the setting, the folder is wanted: it is made also when the write was refused.
 void SaveTransmitRoot(frmWizard& form) {
     const std::wstring problem = WriteProblem(ftwSession.location);
+    // The programs that the last pages start read it at once.
     FlushIni();
     if (!problem.empty()) form.TellOfRefusedWrite(problem);
     const std::wstring path = LocationPath(ftwSession.location.folders);

@@ -9,6 +9,7 @@ std::vector<std::wstring> SampleEntries(const std::vector<std::wstring>& fileNam
     std::vector<std::wstring> entries;
     for (const std::wstring& name : fileNames)
         entries.push_back(SplitPath(name, kNameWithoutExtension));
+    // An empty list would look like one that is still being filled.
     if (entries.empty()) entries.emplace_back(kNoSamples);
     return entries;
 }
@@ -30,6 +31,7 @@ std::wstring LeftOutMessage(const std::vector<std::wstring>& entries) {
     return text;
 }
 
+// The extension is put back in capitals, however the file spells it: Windows finds it either way.
 std::wstring SampleFileList(std::wstring_view folder, const std::vector<std::wstring>& entries) {
     std::wstring files;
     for (const std::wstring& entry : entries)

@@ -28,6 +28,7 @@ void PageFtwAboutConfig(frmWizard& form) {
     // clang-format on
 }
 
+// At each visit: samples may have been added since the last one.
 void PrepareFtwImportSample(frmWizard&) {
     ftwSession.samples = SampleEntries(ListFiles(locations.SamplesPath, suite::kConfigurationExtension));
 }
@@ -42,6 +43,7 @@ void PageFtwImportSample(frmWizard& form) {
     InputColumn column(form);
     column.Width(layout::kTextWidth);
     column.Prompt(0, L"Sample &configurations");
+    // As long as the page allows, whatever the resolution makes of the text.
     column.List(0, layout::kContentBottom - layout::kGapBetween - column.Top()).Fill(ftwSession.samples);
 }
 
@@ -63,6 +65,7 @@ bool NoSampleSelected() { return ftwSession.selectedSamples == 0; }
 void ImportSelectedSamples(frmWizard& form) {
     std::vector<std::wstring> fitting, leftOut;
     const bool hasTarget = FitsShell(locations.SettingsPath);
+    // Each is measured for itself: one long path holds no other sample back.
     for (const std::wstring& sample : SelectedSamples(form.pool.lstUserInput[0]))
         (hasTarget && FitsShell(SampleFileList(locations.SamplesPath, {sample})) ? fitting : leftOut)
             .push_back(sample);

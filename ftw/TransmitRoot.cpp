@@ -10,6 +10,7 @@ constexpr std::wstring_view kFloppy = L"A:;";
 constexpr wchar_t kQuote = L'"';
 constexpr std::size_t kMostShown = 2000; // characters; a page's mark-up is found among 32,767
 
+// Only a pair: with a third mark nobody knows which two belong together.
 std::wstring WithoutPair(const std::wstring& path) {
     const std::wstring trimmed = TrimBlanks(path);
     const bool isQuoted =
@@ -33,6 +34,7 @@ std::wstring WithoutQuotes(const std::wstring& typed) {
 
 std::wstring TransmitRootValue(const CncLocation& location) {
     std::wstring value = TrimBlanks(location.folders);
+    // The whole computer has its floppy drive already.
     if (value.empty()) return std::wstring(kWholeComputer);
     if (value.back() != kSeparator) value += kSeparator;
     if (location.floppy) value += kFloppy;
@@ -62,6 +64,7 @@ std::wstring LocationPath(std::wstring_view folders) {
 
 std::wstring ShownLocation(const std::wstring& folders) {
     if (folders.size() <= kMostShown) return folders;
+    // Half of a pair is no character, and a page would show a box for it.
     constexpr wchar_t kFirstOfPairs = 0xD800;
     constexpr wchar_t kLastOfPairs = 0xDBFF;
     const wchar_t last = folders[kMostShown - 1];

@@ -26,8 +26,9 @@ std::wstring WithoutQuotes(const std::wstring& typed);
 // The value to store. Blanks around the folders are dropped.
 std::wstring TransmitRootValue(const CncLocation& location);
 
-// The way back, for a user who keeps his configuration: storing the result gives `value` again, with the ";"
-// at its end that one written by hand may lack. The absent value is the empty text.
+// The way back, for a user who keeps the configuration: storing the result gives `value` again. One that was
+// written by hand may gain the ";" at its end and lose blanks around it. The absent value, "", is the whole
+// computer.
 CncLocation ReadTransmitRoot(std::wstring_view value);
 
 // The folders as one path, to be tested or created: without blanks around it and without one ";" at its

@@ -84,6 +84,8 @@ void PageFtwChoose(frmWizard& form) {
         column.Top(form.picMain.Top() + kLastOptionTop + kOptionDistance * (i - kLoadConfiguration));
         column.Option(mode, kCaptions[mode], i == kNewInstallation);
     }
+    // Grey while there is nothing to keep: the option stays where it is, and says what will be possible
+    // later.
     form.pool.optUserInput[kKeepConfiguration].Enabled(ftwSession.maxProgress > kKeepAfterProgress);
 }
 
@@ -91,6 +93,7 @@ void PageFtwChoose(frmWizard& form) {
 void ChooseInstallType(frmWizard& form) {
     const std::int16_t mode = SelectedOption(form.pool, kSetupModes);
     if (mode == kLoadConfiguration) return HandOverToConfigManager(form);
+    // Not undone by a later choice of "New": what was read is then only what the pages begin with.
     if (mode == kKeepConfiguration) KeepConfiguration();
     ++form.PageNo;
     form.ShowPage();

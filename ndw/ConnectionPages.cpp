@@ -44,8 +44,10 @@ void PageNdwPort(frmWizard& form) {
     int number = 0;
     for (const PortNote& note : ndwSession.ports)
         ports.Add(PortCaption(++number, note));
+    // The list is in the order of the numbers, without gaps: an index is a port.
     ports.Index(ndwSession.answers.portIndex);
     column.Width(layout::kTextWidth);
+    // Room for the longest text from the start: the page does not move when another port is selected.
     column.Prompt(kUsePrompt, L"", kUseLines);
     ShowPortUse(form);
     // Set last: filling the list is no change of the user's.
@@ -98,6 +100,7 @@ void PageNdwComFmt(frmWizard& form) {
     InputColumn(form).Options(kCharacterFormats, ndwSession.answers.characterFormatIndex);
 }
 
+// Kept also while the data format leaves the page out: who comes back to ASCII finds it again.
 void LeaveNdwComFmt(frmWizard& form, Move) {
     ndwSession.answers.characterFormatIndex = SelectedOption(form.pool, kCharacterFormats.size());
 }

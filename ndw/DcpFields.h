@@ -12,12 +12,15 @@
 // The default of a text that stays at code 0.
 inline constexpr const wchar_t* kUnassigned = nullptr;
 
+// One row: where the field begins in its record, which member it is, what a new configuration holds there.
 template <class Record, class Member, class Default> struct DcpField {
     std::size_t offset;
     Member Record::*member;
     Default byDefault;
 };
 
+// The makers of rows, by kind of field. An offset is written out so that a reader can hold it against the
+// document; FieldsFill holds it against the widths.
 template <class Record, std::size_t N>
 constexpr auto DcpText(std::size_t offset, FixedText<N> Record::*member,
                        const wchar_t* byDefault = kUnassigned) {
@@ -147,6 +150,7 @@ inline constexpr std::tuple kRecord4Fields{
 // clang-format on
 
 // ---- widths in the file ----
+// Bytes of a member, by its type.
 template <class Member> struct DcpWidth;
 template <> struct DcpWidth<std::int16_t> { static constexpr std::size_t value = 2; };
 template <std::size_t N> struct DcpWidth<FixedText<N>> { static constexpr std::size_t value = N; };

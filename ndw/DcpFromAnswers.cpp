@@ -13,11 +13,13 @@ constexpr std::int16_t Flag(bool set) { return set ? kTrue : kFalse; }
 
 constexpr bool Chosen(std::int16_t set, int bit) { return ((set >> bit) & 1) != 0; }
 
+// Answers need not come from the pages: the samples are made of a table.
 template <class Table> constexpr bool HasIndex(const Table& table, std::int16_t index) {
     return index >= 0 && static_cast<std::size_t>(index) < table.size();
 }
 
 void FillLine(DcpHeader& header, const NdwAnswers& answers) {
+    // The lowest bit of the index is the data bits, what is above it the parity: so the choices are ordered.
     const int format = answers.characterFormatIndex;
     header.portNumber = static_cast<std::int16_t>(answers.portIndex + 1);
     header.baudA = header.baudB = answers.baudIndex;
@@ -30,6 +32,7 @@ void FillLine(DcpHeader& header, const NdwAnswers& answers) {
 void FillTransmission(DcpHeader& header, const NdwAnswers& answers) {
     header.sendsCr = Flag(SendsCr(answers));
     header.sendsLf = Flag(SendsLf(answers));
+    // Cut by the field when they are too long. The page and the summary have said so.
     header.transmitPrefix = PrefixCodes(answers);
     header.transmitSuffix = SuffixCodes(answers);
 
@@ -48,7 +51,8 @@ void FillTransmission(DcpHeader& header, const NdwAnswers& answers) {
 }
 
 // What each way of naming received files stores. Where the name begins: the marker, then on which line
-// counted from the marker's, from which column or character, and how many characters or up to which.
+// counted from the marker's, from which column or character, and how many characters or up to which. Two rows
+// are the same on purpose: what parts them is the beginning that the user types, which is stored behind them.
 struct NamingFormat {
     const wchar_t* marker;
     std::int16_t line;
@@ -99,6 +103,7 @@ void FillReception(DcpHeader& header, const NdwAnswers& answers) {
     if (HasIndex(kTerminations, answers.receiveTerminationIndex)) {
         const Termination& chosen = kTerminations[static_cast<std::size_t>(answers.receiveTerminationIndex)];
         header.receiveTermination = chosen.mode;
+        // Without a time-out the field keeps its blanks: "0" would be a time.
         if (chosen.timeout) header.receiveTimeout = chosen.timeout;
     }
     FillNaming(header, answers.receiveNamingIndex);
@@ -115,5 +120,6 @@ void FillDcpRecords(DcpRecords& records, const NdwAnswers& answers, std::wstring
     FillLine(records.header, answers);
     FillTransmission(records.header, answers);
     FillReception(records.header, answers);
+    // Writing copies it once more. Here it is done so that the records are right as they are.
     records.record2.removedLines = records.header.removedLines.View();
 }

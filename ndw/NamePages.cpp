@@ -12,6 +12,7 @@
 namespace {
 
 constexpr int kNameLimit = 250; // characters; a path holds 259
+// What the two links leave: a text that a long path makes taller scrolls, and hides neither of them.
 constexpr win::Twips kTallestFinalText = layout::kContentBottom - layout::kTextTop - layout::kGapAfterText -
                                          (layout::kLinkHeight + layout::kGapBetween) * 2;
 
@@ -50,6 +51,7 @@ void PageNdwName(frmWizard& form) {
     // clang-format off
     form.WriteInfo(
         L"Check your answers, type a name and click <b>Create</b>. Then choose an icon; with <b>Cancel</b> the standard icon is used.\r\n\r\n" +
+        // Texts of other pages stand in it as they were typed, with any "<".
         WithoutTags(SummaryText(ndwSession.answers)));
     // clang-format on
     InputColumn column(form);
@@ -59,10 +61,12 @@ void PageNdwName(frmWizard& form) {
 
 void LeaveNdwName(frmWizard& form, Move move) {
     auto& box = form.pool.txtUserInput[0];
+    // Checked on Create alone, but kept on Back as well: who looks something up finds the name again.
     ndwSession.answers.name = box.Text();
     if (move != Move::Next) return;
     NdwCreateConfig(form);
     if (!form.StayOnPage) return;
+    // What was refused is there to be typed over.
     box.Focus();
     box.SelectAll();
 }
@@ -70,6 +74,7 @@ void LeaveNdwName(frmWizard& form, Move move) {
 void PageNdwFinal(frmWizard& form) {
     form.WriteHeading(L"Finished");
     // clang-format off
+    // No tags to be kept out here: no file name holds a "<".
     const wchar_t* next = startUp.ConfigLaunch
         ? L"Click <b>Finish</b> to open it in Varnel DNC Configuration (VConfig)."
         : L"Click <b>New</b> to create a configuration for another CNC.\r\n\r\n"
@@ -85,6 +90,7 @@ void PageNdwFinal(frmWizard& form) {
 
 void LeaveNdwFinal(frmWizard& form, Move move) {
     if (move != Move::Next) return;
+    // The name as it stands, like the link's: the rest of the command line, blanks included.
     if (startUp.ConfigLaunch) RunProgram(suite::kConfigProgram, L" " + form.ConfigName);
     form.ConfirmExit = false;
     form.EndProgram();

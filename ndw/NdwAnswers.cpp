@@ -18,6 +18,7 @@ bool SendsCr(const NdwAnswers& answers) { return (answers.endOfBlockIndex & 1) =
 
 bool SendsLf(const NdwAnswers& answers) { return answers.endOfBlockIndex < 2; }
 
+// In the order in which the machine gets them, which is that of the boxes on the page.
 std::wstring PrefixCodes(const NdwAnswers& answers) {
     std::wstring codes;
     if (Chosen(answers.prefixChoice, 0)) codes += EndOfBlockCodes(answers);
@@ -41,6 +42,7 @@ bool CodesFit(std::wstring_view codes) { return codes.size() <= kCodesLength; }
 
 std::wstring StoredCodes(std::wstring_view codes) { return std::wstring(codes.substr(0, kCodesLength)); }
 
+// From its caret, the last character that is stored, to its letter, which is not.
 std::wstring CutCode(std::wstring_view codes) {
     return CodesFit(codes) ? std::wstring() : std::wstring(codes.substr(kCodesLength - 1));
 }

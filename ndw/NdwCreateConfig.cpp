@@ -21,6 +21,7 @@ constexpr std::size_t kLongestPath = 259; // characters, without the NUL
 constexpr wchar_t kTryAgain[] = L"\r\n\r\nTry a different name.";
 
 std::wstring InvalidCharactersMessage() {
+    // Far from each other: side by side they would read like one strange word.
     std::wstring list(10, L' ');
     for (const wchar_t c : kInvalidNameChars)
         list += std::wstring(1, c) + L"  ";
@@ -47,10 +48,11 @@ std::wstring TooLongMessage(std::size_t excess, std::size_t length) {
     return message;
 }
 
-// What is wrong with a name, "" when nothing is. The last checks keep the file from going to a port or
-// under another name than the one typed.
+// What is wrong with a name, "" when nothing is. The last checks keep the file from going to a port, and the
+// name from meaning another one where it stands without its extension or in 8 bits.
 std::wstring NameProblem(const std::wstring& name, const std::wstring& path) {
     if (name.empty()) return L"You must specify a valid name to continue.";
+    // Before the file is looked for: with a backslash in the name that would be a look into another folder.
     if (!IsValidName(name)) return InvalidCharactersMessage() + kTryAgain;
     if (IsUsed(name, path))
         return std::wstring(L"The configuration name you specified is already used.") + kTryAgain;
@@ -94,10 +96,12 @@ void NdwCreateConfig(frmWizard& form) {
     }
     SetDcpHeaderDefaults(dcpRecords.header);
     SetDcpRecord4Defaults(dcpRecords.record4);
+    // The icon comes after every check of the name: nobody picks one for a name that is refused.
     FillDcpRecords(dcpRecords, ndwSession.answers, NdwPickIcon(form.Hwnd()));
     if (!Write(form, path)) return;
     form.StayOnPage = false;
     form.ConfigWritten = true;
     form.ConfigName = name;
+    // "New" keeps the other answers; this one is in use now.
     ndwSession.answers.name.clear();
 }

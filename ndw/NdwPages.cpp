@@ -11,19 +11,23 @@ namespace {
 
 constexpr int kSteps = kNdwNamePage - kNdwPortPage + 1;
 
+// A form begins anew, whatever one before it in this process was told.
 void Load(frmWizard&) { NdwSetDefaults(); }
 
 void BeforeShow(frmWizard& form) {
     const bool isFinal = form.PageNo == kNdwFinalPage;
     form.cmdBack.Text(isFinal ? kNewCaption : kBackCaption);
+    // VConfig has asked for one configuration: no other can be begun.
     if (isFinal && startUp.ConfigLaunch) form.cmdBack.Visible(false);
     const bool isStep = form.PageNo >= kNdwPortPage && form.PageNo <= kNdwNamePage;
+    // On the other pages it is hidden, and what it says does not matter.
     form.lblStep.Text(L"Step " + std::to_wstring(form.PageNo - kNdwPortPage + 1) + L"/" +
                       std::to_wstring(kSteps));
     form.lblStep.Visible(isStep);
     if (form.PageNo == kNdwPortPage) form.ConfigWritten = false;
 }
 
+// Every page is left by its row.
 bool TakesOverNext(frmWizard&) { return false; }
 
 // The user has closed the wizard after making a configuration for VConfig: hand it over all the same. The

@@ -19,6 +19,7 @@ std::wstring Shortened(const std::wstring& name) {
 
 } // namespace
 
+// No names here: the closed list has room for one at most, and a name cut in half reads like another machine.
 std::wstring PortCaption(int number, const PortNote& note) {
     std::wstring caption = PortName(number);
     if (note.onComputer) caption += L" - on this computer";

@@ -35,7 +35,8 @@ std::optional<std::int16_t> PortOf(const std::wstring& path) {
     return DcpPortNumber({bytes, read});
 }
 
-// The system's pattern also finds longer extensions.
+// The system's pattern also finds longer extensions. The entry tells the size, so that nothing is opened but
+// what has the length of a configuration.
 bool MayBeConfiguration(const WIN32_FIND_DATAW& found) {
     return lstrcmpiW(SplitPath(found.cFileName, kExtension).c_str(), suite::kConfigurationExtension + 1) ==
                0 &&

@@ -47,12 +47,14 @@ void LeaveNdwRxName(frmWizard& form, Move move) {
     answers.receiveNamingIndex = IndexOrZero(form.pool.lstUserInput[1].Index());
     StoreFileText(form, form.pool.txtUserInput[0], move, answers.receivePrefix);
     auto& box = form.pool.txtUserInput[1];
+    // Like a text that cannot be stored, one that is not valid is dropped on the way back.
     if (const auto extension = CheckedExtension(box.Text()))
         answers.receiveExtension = *extension;
     else if (move == Move::Next && !form.StayOnPage)
         RefuseText(form, box,
                    L"The file extension you specified is not valid.\r\n\r\n"
                    L"Type up to 3 letters (A to Z) or digits, without blanks and other signs.");
+    // A page that stays keeps its looks.
     if (!form.StayOnPage) form.pool.SetInputFont(false);
 }
 

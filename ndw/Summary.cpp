@@ -13,12 +13,14 @@ std::wstring Caption(const std::array<std::wstring_view, N>& captions, std::int1
     return std::wstring(position < N ? captions[position] : L"?");
 }
 
+// An empty answer is one, too: it must not look like one that was forgotten.
 std::wstring OrNone(const std::wstring& text) { return text.empty() ? std::wstring(kNone) : text; }
 
 std::wstring Line(const NdwAnswers& answers) {
     std::wstring line = L"COM" + std::to_wstring(answers.portIndex + 1) + L", " +
                         Caption(kBaudRates, answers.baudIndex) + L" baud, " +
                         Caption(kDataFormats, answers.dataFormatIndex);
+    // The other data formats bring their own: what was once chosen for ASCII means nothing with them.
     if (answers.dataFormatIndex == kAsciiDataFormat)
         line += L" (" + Caption(kCharacterFormats, answers.characterFormatIndex) + L")";
     return line;

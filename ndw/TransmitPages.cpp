@@ -29,6 +29,7 @@ void BuildCodesPage(frmWizard& form, std::span<const std::wstring_view> captions
     InputColumn column(form);
     column.Checks(captions, ndwSession.answers.*choice);
     for (std::size_t i = 0; i < captions.size(); ++i)
+        // Stored at the click, not only when the page is left: the line below shows what the answer makes.
         form.pool.chkUserInput[i].onClick = [&form, captions, choice, codesOf] {
             ndwSession.answers.*choice = CheckedBits(form.pool, captions.size());
             ShowCodes(form, codesOf);

@@ -10,12 +10,14 @@ DcpRecords dcpRecords;
 namespace {
 
 // ---- defaults ----
+// A text without a default is left alone: assigning nothing to it would make blanks of its zeros.
 template <std::size_t N> void SetDefault(FixedText<N>& text, const wchar_t* byDefault) {
     if (byDefault != kUnassigned) text = byDefault;
 }
 
 void SetDefault(std::int16_t& number, std::int16_t byDefault) { number = byDefault; }
 
+// The third text of an entry is one of those that stay unassigned.
 void SetDefault(DcpTable& table, const wchar_t*) {
     constexpr std::array<std::wstring_view, 4> kCodes = {L"+T", L"+R", L"+M", L"+D"};
     for (std::size_t i = 0; i < table.size(); ++i) {
@@ -31,6 +33,7 @@ template <class Record, class Fields> void SetDefaults(Record& record, const Fie
 }
 
 // ---- bytes ----
+// Byte after byte, so that neither the machine's order nor its padding gets into the file.
 class ByteWriter {
   public:
     ByteWriter(std::span<unsigned char> bytes, AnsiByte ansiByte) : bytes_(bytes), ansiByte_(ansiByte) {}
@@ -56,6 +59,7 @@ class ByteWriter {
     std::size_t next_ = 0;
 };
 
+// The same way back. Records are read from checked files alone, so that running out of bytes is a bug.
 class ByteReader {
   public:
     explicit ByteReader(std::span<const unsigned char> bytes) : bytes_(bytes) {}
@@ -106,6 +110,7 @@ template <class Records, class Act> void VisitFields(Records& records, Act act) 
     visit(records.record4, kRecord4Fields);
 }
 
+// The last character of the signature, a blank, counts.
 bool IsDcpFile(std::span<const unsigned char> bytes) {
     constexpr std::wstring_view kSignature = kDcpSignature;
     return bytes.size() == kDcpFileSize && std::equal(kSignature.begin(), kSignature.end(), bytes.begin());
@@ -117,6 +122,7 @@ void SetDcpHeaderDefaults(DcpHeader& header) { SetDefaults(header, kHeaderFields
 
 void SetDcpRecord4Defaults(DcpRecord4& record) { SetDefaults(record, kRecord4Fields); }
 
+// Both belong to the file's form: they hold whoever has filled the records, and with what.
 void PrepareForWriting(DcpRecords& records) {
     records.header.endOfFileMarker = kEndOfFileMarker;
     records.record2.removedLines = records.header.removedLines.View();
@@ -134,6 +140,7 @@ bool ReadDcpBytes(std::span<const unsigned char> bytes, DcpRecords& records) {
     return true;
 }
 
+// Two bytes, not four records: the port page asks thousands of files.
 std::optional<std::int16_t> DcpPortNumber(std::span<const unsigned char> bytes) {
     if (!IsDcpFile(bytes)) return std::nullopt;
     std::int16_t number = 0;

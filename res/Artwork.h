@@ -6,7 +6,7 @@
 
 #include "res/resource.h"
 
-// The ground of the picture column. The pictures are drawn on it, so it is the same under every colour
+// The ground of the picture column. The pictures are drawn on it, so it is the same under every color
 // scheme, high contrast included.
 inline constexpr COLORREF kColumnColor = RGB(0x27, 0x45, 0x5F);
 // Text on that ground (contrast 7.4 : 1).

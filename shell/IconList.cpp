@@ -18,6 +18,7 @@ bool FitsConfiguration(const std::wstring& key) {
     return key.size() + std::size(suite::kIconExtension) - 1 <= kNameRoom && !FirstNotOneByte(key);
 }
 
+// As the user's language sorts. Hyphens count like other signs: else "A-2" would stand behind "A10".
 bool Precedes(const std::wstring& left, const std::wstring& right) {
     return CompareStringW(LOCALE_USER_DEFAULT, NORM_IGNORECASE | SORT_STRINGSORT, left.c_str(), -1,
                           right.c_str(), -1) == CSTR_LESS_THAN;
@@ -51,6 +52,7 @@ class Canvas {
 
 } // namespace
 
+// A file called ".ICO" has no name to choose it by.
 std::vector<std::wstring> IconKeys(const std::wstring& folder) {
     std::vector<std::wstring> keys;
     for (const std::wstring& file : ListFiles(folder, suite::kIconExtension))
@@ -69,6 +71,7 @@ IconList::IconList(const std::wstring& folder, const std::vector<std::wstring>& 
     const Canvas canvas(pixels);
     keys_.reserve(keys.size());
     for (const std::wstring& key : keys) {
+        // A damaged file costs its own place only.
         const win::UniqueIcon icon(
             static_cast<HICON>(LoadImageW(nullptr, (folder + key + suite::kIconExtension).c_str(), IMAGE_ICON,
                                           pixels, pixels, LR_LOADFROMFILE)));

@@ -10,6 +10,7 @@ constexpr wchar_t kDefaultKey[] = L"VDNC32";
 constexpr std::uint32_t kPauseBetweenWords_ms = 1000;
 constexpr int kNotch = 120; // what the system reports for one notch of the wheel
 
+// The caller knows the user's language and its capitals; this part is built without the system.
 bool BeginsWith(std::wstring_view key, std::wstring_view letters, wchar_t (*upper)(wchar_t)) {
     return key.size() >= letters.size() &&
            std::equal(letters.begin(), letters.end(), key.begin(),
@@ -82,6 +83,7 @@ IconStrip ScrollTo(IconStrip strip, std::int32_t position) {
     return strip;
 }
 
+// The last icon then stands in the last slot: the strip never shows an empty end.
 std::int16_t ScrollMaximum(std::int16_t count) {
     return static_cast<std::int16_t>(std::max(1, count - kIconSlots + 1));
 }
@@ -101,6 +103,7 @@ std::optional<std::int16_t> PositionInSlot(const IconStrip& strip, std::int16_t 
 }
 
 void TypedLetters::Add(wchar_t letter, std::uint32_t letterTime_ms) {
+    // Without sign, so that the difference is right also when the clock has run over between two letters.
     if (letterTime_ms - time_ms > kPauseBetweenWords_ms) letters.clear();
     letters += letter;
     time_ms = letterTime_ms;
@@ -114,6 +117,7 @@ std::optional<std::int16_t> FindByLetters(const std::vector<std::wstring>& keys,
         const std::size_t index = (static_cast<std::size_t>(selected - 1) + i) % keys.size();
         if (BeginsWith(keys[index], letters, upper)) return static_cast<std::int16_t>(index + 1);
     }
+    // "mmm" begins no name: it is the key of M pressed three times.
     const bool isRepeated = letters.size() > 1 && letters.find_first_not_of(letters[0]) == letters.npos;
     return isRepeated ? FindByLetters(keys, selected, letters.substr(0, 1), upper) : std::nullopt;
 }

@@ -31,6 +31,7 @@ void AddPlaceBoxes(InputColumn& column, std::int16_t choice) {
     for (std::size_t i = 0; i < std::size(kPlaceBoxes); ++i) {
         column.Left(left);
         column.Top(top);
+        // Narrower than a column's boxes: a click beside a caption must not reach the box before it.
         column.Check(i, kPlaceBoxes[i].caption, (choice >> i & 1) != 0).Width(kPlaceBoxes[i].width);
         left += kPlaceBoxes[i].width;
     }
@@ -62,6 +63,7 @@ void BuildShortcutsPage(frmWizard& form, std::int16_t choice, std::span<const Li
     ShowAppIcons(form, kFirstAppIcon);
 }
 
+// Back and Skip keep what was chosen, but change nothing on the disk.
 std::int16_t LeaveShortcutsPage(frmWizard& form, Move move) {
     const std::int16_t choice = CheckedBits(form.pool, std::size(kPlaceBoxes));
     if (move == Move::Next) UpdateShortcuts(form.Hwnd(), choice);

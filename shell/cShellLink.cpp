@@ -10,6 +10,7 @@
 
 namespace {
 
+// Of every text that a link holds, its NUL included; the shell cuts what is longer.
 constexpr int kBufferLength = 255;
 
 // Brings the link's stored data up to date. Without the other two the shell would look for a missing target
@@ -61,6 +62,8 @@ bool cShellLink::CreateShellLink(const std::wstring& linkFile, const std::wstrin
     const auto apply = [](const std::wstring& text, auto set) {
         return text.empty() || (!FirstNotInAnsi(text) && SUCCEEDED(set(ToAnsi(text).c_str())));
     };
+    // Not one call is asked for S_OK: a missing target gives S_FALSE, and its shortcut may well be made
+    // before it.
     return apply(target, [&](const char* text) { return link.SetPath(text); }) &&
            apply(workingFolder, [&](const char* text) { return link.SetWorkingDirectory(text); }) &&
            apply(arguments, [&](const char* text) { return link.SetArguments(text); }) &&
@@ -70,6 +73,7 @@ bool cShellLink::CreateShellLink(const std::wstring& linkFile, const std::wstrin
            SUCCEEDED(object.file.Get()->Save(linkFile.c_str(), FALSE));
 }
 
+// All or nothing: a property that could not be read would look like an empty one of the link's own.
 std::optional<ShellLinkInfo> cShellLink::GetShellLinkInfo(const std::wstring& linkFile) const {
     if (linkFile.empty()) return std::nullopt;
     const LinkObject object;

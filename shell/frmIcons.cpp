@@ -131,6 +131,7 @@ void frmIcons::OpenForm(const std::wstring& folder, HWND owner) {
 }
 
 void frmIcons::LayOut() {
+    // The bar is as high as the user has made those of all programs, so the window is laid out around it.
     const Twips barHeight = NeedsScrollBar(icons_->Count()) ? win::Tw(GetSystemMetrics(SM_CYHSCROLL)) : 0_tw;
     const Twips stripHeight = kSlot + barHeight + kEdge * 2;
     const Twips labelTop = kMargin + stripHeight + kGap;
@@ -152,6 +153,7 @@ void frmIcons::LayOut() {
 void frmIcons::ShowControls() {
     for (PickerButton& slot : imgIcon)
         slot.Visible(true);
+    // Fewer icons than slots leave the other slots empty; a bar would have nowhere to go.
     hScrollIcons.Visible(NeedsScrollBar(icons_->Count()));
     win::Control* const others[] = {&lblIconName, &lblnIcons, &cmdOK, &cmdCancel, &picIcons};
     for (win::Control* control : others)
@@ -163,6 +165,7 @@ void frmIcons::ShowControls() {
 
 void frmIcons::Show(const IconStrip& strip) {
     strip_ = strip;
+    // All six slots, whatever has changed: they are drawn sooner than a difference would be found.
     UpdateIcons();
     lblnIcons.Text(std::to_wstring(strip_.count) + L" icons");
     lblIconName.Text(icons_->Key(strip_.selected));
@@ -222,6 +225,7 @@ void frmIcons::hScrollIcons_Change(WORD code) {
     case SB_LEFT:      return Show(Scroll(strip_, ScrollStep::First));
     case SB_RIGHT:     return Show(Scroll(strip_, ScrollStep::Last));
     case SB_THUMBTRACK: break;
+    // SB_THUMBPOSITION, SB_ENDSCROLL: where the thumb is let go has been shown already.
     default: return;
     }
     // clang-format on
@@ -239,6 +243,7 @@ void frmIcons::Form_KeyDown(WPARAM key) {
     case VK_RIGHT: return Show(MoveRight(strip_));
     case VK_HOME:  return Show(Choose(strip_, 1));
     case VK_END:   return Show(Choose(strip_, strip_.count));
+    // A page is what the strip shows.
     case VK_PRIOR: return Show(Choose(strip_, strip_.selected - kIconSlots));
     case VK_NEXT:  return Show(Choose(strip_, strip_.selected + kIconSlots));
     default: return;
@@ -269,6 +274,7 @@ void frmIcons::Form_SysColorChange() {
 }
 
 void frmIcons::cmdOK_Click() {
+    // The extension as configurations hold it, however the file spells its own.
     result_ = icons_->Key(strip_.selected) + L".ico";
     Hide();
 }
@@ -290,12 +296,14 @@ LRESULT frmIcons::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
         Form_MouseWheel(-GET_WHEEL_DELTA_WPARAM(wParam), WheelSetting(SPI_GETWHEELSCROLLCHARS));
         return 0;
     case WM_SYSCOLORCHANGE:
+        // The pictures are this form's; the controls are told by the base.
         Form_SysColorChange();
         break;
     case WM_HSCROLL:
         hScrollIcons_Change(LOWORD(wParam));
         return 0;
     case WM_COMMAND: {
+        // Only slots know a double click. Of the buttons its second half is dropped by the form.
         const int slot = LOWORD(wParam) - kSlotId + 1;
         if (HIWORD(wParam) != BN_DOUBLECLICKED || slot < 1 || slot > kIconSlots) break;
         imgIcon_DblClick(static_cast<std::int16_t>(slot));
@@ -323,6 +331,7 @@ void frmIcons::OnDrawItem(win::Control& control, const DRAWITEMSTRUCT& item) {
     if ((item.itemState & (ODS_FOCUS | ODS_NOFOCUSRECT)) == ODS_FOCUS) DrawFocusRect(item.hDC, &area);
 }
 
+// A picker for each configuration: the folder is read as it is then, and nothing stays in memory.
 std::wstring NdwPickIcon(HWND owner) {
     frmIcons form;
     form.OpenForm(IconFolder(), owner);

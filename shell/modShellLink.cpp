@@ -40,6 +40,7 @@ constexpr Shortcut kRemoteServer = {L"Varnel DNC Remote Server.lnk", suite::kRem
 // holds open.
 constexpr std::int16_t kQuietDelete = FOF_SILENT | FOF_NOCONFIRMATION | FOF_NOERRORUI;
 
+// Made when a shortcut is first asked for: most runs never need it.
 cShellLink& Links() {
     static cShellLink link;
     return link;
@@ -48,10 +49,13 @@ cShellLink& Links() {
 void Update(HWND owner, const std::wstring& folder, bool create, const Shortcut& shortcut) {
     const std::wstring link = folder + shortcut.file;
     if (create) {
+        // Of all three places only Quick Launch may be missing. Where it cannot be made, the link fails by
+        // itself.
         if (!FolderExists(folder)) CreateDirectoryW(folder.c_str(), nullptr);
         Links().CreateShellLink(link, locations.ProgramFolder + shortcut.target, locations.ProgramFolder, L"",
                                 L"", 0, SW_SHOW);
     } else {
+        // A list of one path: two NULs end it, whoever hands it on.
         DeleteAnyFile(link + std::wstring(2, L'\0'), kQuietDelete, owner);
     }
 }
@@ -61,6 +65,7 @@ void Update(HWND owner, const std::wstring& folder, bool create, const Shortcut&
 void ShowAppIcons(frmWizard& form, std::int16_t mode) {
     for (auto& icon : form.picAppIcon) {
         icon.Visible(mode >= kAllAppIcons);
+        // The page change has hidden all five, so the others need no word.
         if (mode == kFirstAppIcon) break;
     }
 }
@@ -71,6 +76,7 @@ void UpdateShortcuts(HWND owner, std::int16_t choice) {
     const bool remoteServer = RemoteServerInstalled();
     for (const Place& place : kPlaces) {
         std::wstring folder;
+        // A place that the shell does not know is passed over, the others are not.
         if (!Links().GetSystemFolderPath(owner, place.shellFolder, folder) || folder.empty()) continue;
         UpdateShortcutsIn(owner, folder + place.below, (choice & place.bit) != 0, remoteServer);
     }

@@ -36,7 +36,7 @@ until [ -s "$work/display" ]; do
 done
 export DISPLAY=:$(cat "$work/display")
 
-# White text on black, with the colours of the scheme of that name that comes with the system.
+# White text on black, with the colors of the scheme of that name that comes with the system.
 contrast_colours() {
     local name
     printf 'REGEDIT4\n\n[HKEY_CURRENT_USER\\Control Panel\\Colors]\n'
