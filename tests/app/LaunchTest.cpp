@@ -1,3 +1,5 @@
+// What the system is asked for, and how; nothing of it is done.
+
 #include "app/Launch.h"
 
 #include "app/Files.h"
@@ -16,78 +18,98 @@
 namespace {
 
 DWORD startError;   // of CreateProcess
-std::wstring asked; // what the shell was asked
-bool isComBegun;    // at that moment
-constexpr DWORD kWanted = SEE_MASK_NOASYNC | SEE_MASK_FLAG_NO_UI;
+bool userRefuses;   // what the shell asks
+std::wstring asked; // "no COM" when the shell was asked before that was begun
+HANDLE given[2];    // to who started a program
+
+template <class... Part> void Note(bool ofShell, const Part&... parts) {
+    const bool isComBegun = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED) == S_FALSE;
+    CoUninitialize();
+    asked = ofShell && !isComBegun ? L"no COM" : (std::wstring() + ... + parts);
+}
 
 // NOLINTNEXTLINE(readability-function-size): as the system has it
 BOOL WINAPI Start(LPCWSTR, LPWSTR line, LPSECURITY_ATTRIBUTES, LPSECURITY_ATTRIBUTES, BOOL, DWORD, LPVOID,
-                  LPCWSTR, LPSTARTUPINFOW, LPPROCESS_INFORMATION) {
-    line[0] = L'x'; // as the system may
+                  LPCWSTR, LPSTARTUPINFOW look, LPPROCESS_INFORMATION started) {
     SetLastError(startError);
-    return FALSE;
+    if (startError) return line[0] = L'x', FALSE; // as the system may
+    Note(false, line, L" as ",
+         look->dwFlags == STARTF_USESHOWWINDOW ? std::to_wstring(look->wShowWindow) : L"?");
+    for (HANDLE& each : given)
+        each = CreateEventW(nullptr, TRUE, FALSE, nullptr);
+    *started = {given[0], given[1], 7, 8};
+    return TRUE;
 }
-
-void NoteCom() {
-    isComBegun = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED) == S_FALSE;
-    CoUninitialize();
-}
+BOOL WINAPI Allow(DWORD process) { return asked += L", front " + std::to_wstring(process), TRUE; }
 
 BOOL WINAPI AskShell(LPSHELLEXECUTEINFOW start) {
-    NoteCom();
-    const auto text = [](const wchar_t* given) { return given ? std::wstring(given) : L"-"; };
-    asked = text(start->lpVerb) + L" <" + start->lpFile + L"> <" + text(start->lpParameters) + L"> in " +
-            text(start->lpDirectory) + L" as " + std::to_wstring(start->nShow) +
-            (start->fMask == kWanted ? L"" : L" other flags");
+    Note(true, start->lpVerb, L" <", start->lpFile, L"> <", start->lpParameters ? start->lpParameters : L"-",
+         start->lpDirectory ? L"> elsewhere" : L">", L" as ", std::to_wstring(start->nShow),
+         start->fMask == (SEE_MASK_NOASYNC | SEE_MASK_FLAG_NO_UI) ? L"" : L" other flags");
     return FALSE;
 }
 
-int WINAPI Operate(LPSHFILEOPSTRUCTW) { return NoteCom(), 1; }
-LPITEMIDLIST WINAPI Browse(LPBROWSEINFOW) { return NoteCom(), nullptr; }
-
-// In a thread that knows nothing of COM yet.
-std::wstring AskedBy(void (*act)(), DWORD error = ERROR_SUCCESS) {
-    startError = error;
-    asked.clear();
-    isComBegun = false;
-    std::thread(act).join();
-    return asked;
+int WINAPI Operate(LPSHFILEOPSTRUCTW what) {
+    const std::wstring second = what->pFrom + std::wcslen(what->pFrom) + 1;
+    Note(true, what->wFunc == FO_COPY ? L"copy " : L"delete ", what->pFrom,
+         second.empty() ? L"" : L" " + second, L" to ", what->pTo ? what->pTo : L"-", L" with ",
+         std::to_wstring(what->fFlags));
+    what->fAnyOperationsAborted = userRefuses;
+    return 0;
 }
+
+LPITEMIDLIST WINAPI Browse(LPBROWSEINFOW what) {
+    Note(true, what->lpszTitle, L" from ", reinterpret_cast<const wchar_t*>(what->lParam), L" with ",
+         std::to_wstring(what->ulFlags), what->hwndOwner == GetDesktopWindow() ? L"" : L" without owner");
+    return nullptr;
+}
+
+const std::wstring kLongest(259, L'x');
 
 } // namespace
 
-TEST(Launch, WhatTheShellIsAsked) {
+TEST(Launch, WhatTheSystemIsAsked) {
     const ReplacedImport start("CreateProcessW", reinterpret_cast<void*>(&Start));
+    const ReplacedImport allow("AllowSetForegroundWindow", reinterpret_cast<void*>(&Allow));
     const ReplacedImport shell("ShellExecuteExW", reinterpret_cast<void*>(&AskShell));
+    const ReplacedImport operate("SHFileOperationW", reinterpret_cast<void*>(&Operate));
+    const ReplacedImport browse("SHBrowseForFolderW", reinterpret_cast<void*>(&Browse));
+    constexpr DWORD kNoRights = 740;
     // clang-format off
     const struct {
-        void (*act)();
-        const wchar_t* asked;
+        DWORD startError;
+        bool (*act)();
+        std::wstring asked;
+        bool result;
     } rows[] = {
-        {[] { OpenDocument(L"a b.pdf", {}, L"C:\\x y\\"); },       L"Open <\"C:\\x y\\a b.pdf\"> <-> in - as 1"           },
-        {[] { OpenDocument(L"V.exe", L"/MANAGER", L"C:\\"); },     L"Open <\"C:\\V.exe\"> </MANAGER> in - as 1"           },
-        {[] { RunProgram(L"V.exe", {}, L"C:\\x y\\"); },           L"Open <C:\\x y\\V.exe> <-> in - as 1"                 },
-        {[] { RunProgram(L"V.exe", L" Mill 3 \"a\"", L"C:\\"); },  L"Open <C:\\V.exe> <Mill 3 \"a\"> in - as 1"           },
-        {[] { RunCommandLine(L"HH.exe \"C:\\x y.chm::/t.htm\""); }, L"Open <HH.exe> <\"C:\\x y.chm::/t.htm\"> in - as 1" },
-        {[] { RunCommandLine(L"HH.exe"); },                        L"Open <HH.exe> <-> in - as 1"                        },
-        {[] { RunCommandLine(L"\"V.exe"); },                       L"Open <V.exe> <-> in - as 1"                         },
+        {0,         [] { return OpenDocument(L"a b.pdf", {}, L"C:\\x y\\"), true; },              L"Open <\"C:\\x y\\a b.pdf\"> <-> as 1",        true },
+        {0,         [] { return OpenDocument(L"V.exe", L"/MANAGER", L"C:\\"), true; },            L"Open <\"C:\\V.exe\"> </MANAGER> as 1",        true },
+        {0,         [] { return RunProgram(L"V.exe", L" /A b", L"C:\\x y\\"), true; },            L"\"C:\\x y\\V.exe\" /A b as 1, front 7",       true },
+        {2,         [] { return RunCommandLine(L"HH.exe"), true; },                               L"",                                            true }, // not there
+        {kNoRights, [] { return RunProgram(L"V.exe", L" Mill 3 \"a\"", L"C:\\x y\\"), true; },    L"Open <C:\\x y\\V.exe> <Mill 3 \"a\"> as 1",   true },
+        {kNoRights, [] { return RunCommandLine(L"HH.exe \"C:\\x y.chm::/t.htm\""), true; },       L"Open <HH.exe> <\"C:\\x y.chm::/t.htm\"> as 1", true },
+        {kNoRights, [] { return RunCommandLine(L"\"V.exe"), true; },                              L"Open <V.exe> <-> as 1",                       true },
+        {0,         [] { return CopyFiles({L"C:\\a\0C:\\b", 9}, L"D:\\", 0, nullptr); },          L"copy C:\\a C:\\b to D:\\ with 64",            true },
+        {0,         [] { return CopyFiles(L"C:\\a", L"D:\\", FOF_SILENT, nullptr); },             L"copy C:\\a to D:\\ with 4",                   true },
+        {0,         [] { return DeleteAnyFile(kLongest, FOF_SILENT, nullptr); },                  L"delete " + kLongest + L" to - with 68",       true },
+        {0,         [] { return userRefuses = true, CopyFiles(L"C:\\a", L"D:\\", 0, nullptr); },  L"copy C:\\a to D:\\ with 64",                  false},
+        // Of these some versions make something else, the current folder.
+        {0,         [] { return DeleteAnyFile(L"", 0, nullptr); },                                L"",                                            false},
+        {0,         [] { return CopyFiles(L"C:\\a" + (L'\0' + kLongest) + L"x", L"D:\\", 0, nullptr); }, L"",                                     false},
+        {0,         [] { return CopyFiles(L"C:\\a", kLongest + L"x", 0, nullptr); },              L"",                                            false},
+        {0,         [] { return BrowseForFolder(L"", GetDesktopWindow(), L"T", 65).empty(); },    L"T from C:\\ with 65",                         true },
+        {0,         [] { return BrowseForFolder(L"D:\\", GetDesktopWindow(), L"", 0).empty(); },  L" from D:\\ with 0",                           true },
     };
     // clang-format on
     for (const auto& row : rows) {
-        SCOPED_TRACE(testing::PrintToString(std::wstring(row.asked)));
-        EXPECT_EQ(AskedBy(row.act, 740), row.asked);
-        EXPECT_TRUE(isComBegun);
+        SCOPED_TRACE(testing::PrintToString(row.asked));
+        startError = row.startError;
+        userRefuses = false;
+        asked.clear();
+        std::thread([&] { EXPECT_EQ(row.act(), row.result); }).join(); // knows nothing of COM yet
+        EXPECT_EQ(asked, row.asked);
     }
-    EXPECT_EQ(AskedBy([] { RunCommandLine(L"HH.exe"); }, ERROR_FILE_NOT_FOUND), L"") << "missing: silent";
-}
-
-TEST(Launch, ComIsBegunBeforeTheShellActs) {
-    const ReplacedImport operate("SHFileOperationW", reinterpret_cast<void*>(&Operate));
-    const ReplacedImport browse("SHBrowseForFolderW", reinterpret_cast<void*>(&Browse));
-    for (void (*act)() :
-         {+[] { CopyFiles(L"C:\\a", L"C:\\b\\", 0, nullptr); }, +[] { DeleteAnyFile(L"C:\\a", 0, nullptr); },
-          +[] { BrowseForFolder(L"", nullptr, L"", 0); }}) {
-        AskedBy(act);
-        EXPECT_TRUE(isComBegun);
-    }
+    DWORD flags = 0;
+    EXPECT_FALSE(GetHandleInformation(given[0], &flags) || GetHandleInformation(given[1], &flags))
+        << "leaked";
 }

@@ -16,13 +16,9 @@ TEST(Registry, TheReadersCutDifferently) {
         {REG_SZ, "ab\0cd\0"s, L"ab\0cd"s, L"ab"},
         {REG_SZ, ""s, L"", L""},
         {REG_SZ, " D\xE4n "s, L" D\u00e4n ", L" D\u00e4n "},
-        {REG_EXPAND_SZ, "%TEMP%\0"s, L"%TEMP%", L"%TEMP%"},
-        {REG_MULTI_SZ, "a\0b\0\0"s, L"a\0b\0"s, L"a"},
-        {REG_NONE, "ab\0"s, L"ab", L"ab"},
         {REG_DWORD, "AB\0\0"s, L"AB\0"s, L"AB"},
         {REG_SZ, std::string(1023, 'x') + '\0', std::wstring(1023, L'x'), std::wstring(1023, L'x')},
         {REG_SZ, std::string(1024, 'x') + '\0', L"default", L"default"},
-        {REG_BINARY, std::string(1025, 'x'), L"default", L"default"},
     };
     const ScratchKey key;
     for (const auto& row : rows) {
@@ -32,7 +28,6 @@ TEST(Registry, TheReadersCutDifferently) {
         EXPECT_EQ(ReadRegString(HKEY_CURRENT_USER, key.Path(), L"Value", L"default"), row.atNul);
     }
     EXPECT_EQ(ReadUserPathValue(L"Software", key.Path().substr(9), L"Other", L"default"), L"default");
-    EXPECT_EQ(ReadUserPathValue(key.Path(), L"No key", L"Value", L"default"), L"default");
     EXPECT_EQ(ReadRegString(HKEY_LOCAL_MACHINE, key.Path(), L"Value", L"default"), L"default");
 }
 

@@ -1,6 +1,5 @@
 #include "app/Settings.h"
 
-#include "app/Suite.h"
 #include "tests/support/Imports.h"
 #include "tests/support/Scratch.h"
 
@@ -18,78 +17,51 @@ BOOL WINAPI FreeSpace(LPCWSTR, PULARGE_INTEGER free, PULARGE_INTEGER, PULARGE_IN
 }
 
 // As the suite's other programs have it open while they write a key of theirs.
-win::UniqueFile OpenedByOthers(const std::wstring& file) {
-    return win::UniqueFile(CreateFileW(file.c_str(), GENERIC_READ | GENERIC_WRITE,
+win::UniqueFile OpenedByOthers() {
+    return win::UniqueFile(CreateFileW(locations.IniFile.c_str(), GENERIC_WRITE,
                                        FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0,
                                        nullptr));
-}
-
-// What a write tells, "" when it is done.
-std::wstring Refusal(const std::wstring& file, const std::wstring& value) {
-    try {
-        WriteIniString(L"Key", value, file);
-        return {};
-    } catch (const win::AppError& error) {
-        return error.Source() + L" " + std::to_wstring(error.Number()) + L" " + error.Description();
-    }
 }
 
 } // namespace
 
 TEST(Settings, Reading) {
-    const std::wstring longest(254, L'x');
     const struct {
-        std::string bytes;
-        std::wstring asIs, trimmed; // of key "Key" in section "General"; "-" is the default
-    } rows[] = {
-        {"", L"-", L"-"},
-        {"[Install]\r\nKey=1\r\n[General]\r\nOther=1\r\n", L"-", L"-"},
-        {"[General]\r\nKey=\r\n", L"-", L"-"},
-        {"[gENERAL]\r\nkEY=1\r\nKey=2\r\n[General]\r\nKey=3\r\n", L"1", L"1"},
-        {"[General]\r\nKey =  5 \r\n", L"5", L"5"}, // the system's own stripping
-        {"[General]\r\nKey=\"  5 \"\r\n", L"  5 ", L"5"},
-        {"[General]\r\nKey=\"   \"\r\n", L"   ", L"-"},
-        {"[General]\r\nKey=D\xE4n\r\n", L"D\u00e4n", L"D\u00e4n"},
-        {"[General]\r\nKey=" + std::string(254, 'x') + "\r\n", longest, longest},
-        {"[General]\r\nKey=" + std::string(300, 'x') + "\r\n", longest, longest},
-    };
+        std::string bytes;          // of section "General"
+        std::wstring asIs, trimmed; // of key "Key"; "-" is the default
+    } rows[] = {{"Other=1\r\n[Install]\r\nKey=1", L"-", L"-"},
+                {"Key=", L"-", L"-"},
+                {"kEY=1\r\nKey=2\r\n[General]\r\nKey=3", L"1", L"1"},
+                {"Key =  5 ", L"5", L"5"}, // the system's own stripping
+                {"Key=\"  5 \"", L"  5 ", L"5"},
+                {"Key=\"   \"", L"   ", L"-"},
+                {"Key=" + std::string(300, 'x'), std::wstring(254, L'x'), std::wstring(254, L'x')}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.bytes.substr(0, 40));
-        const ScratchFolder folder;
-        const std::wstring file = folder.Path() + suite::kIniFile;
-        EXPECT_EQ(ReadIniString(L"General", L"Key", L"-", file), L"-"); // no file yet
-        WriteFileBytes(file, row.bytes);
-        EXPECT_EQ(ReadIniString(L"General", L"Key", L"-", file), row.asIs);
-        EXPECT_EQ(ReadProfileString(file, L"General", L"Key", L"-"), row.trimmed);
-        EXPECT_EQ(FileBytes(file), row.bytes);
+        const ScratchSuite suite;
+        EXPECT_EQ(ReadIniString(L"General", L"Key", L"-"), L"-"); // no file yet
+        suite.Ini("[gENERAL]\r\n" + row.bytes + "\r\n");
+        EXPECT_EQ(ReadIniString(L"General", L"Key", L"-"), row.asIs);
+        EXPECT_EQ(ReadProfileString(locations.IniFile, L"General", L"Key", L"-"), row.trimmed);
     }
-}
-
-// Far more than the suite's programs read back.
-TEST(Settings, ReadingAWholeValue) {
-    const ScratchFolder folder;
-    const std::wstring file = folder.Path() + suite::kIniFile;
-    for (const std::size_t length : {0U, 253U, 254U, 255U, 1022U, 1023U, 1024U, 2047U, 2048U, 20000U}) {
-        WriteFileBytes(file, "[General]\r\nKey=" + std::string(length, 'x') + "\r\n");
-        EXPECT_EQ(ReadWholeIniString(L"General", L"Key", file).size(), length);
+    const ScratchSuite suite; // a whole value, of which the suite's programs read far less
+    for (const std::size_t length : {0U, 255U, 1022U, 1023U, 1024U, 2047U, 2048U, 20000U}) {
+        suite.Ini("[General]\r\nKey=" + std::string(length, 'x') + "\r\n");
+        EXPECT_EQ(ReadWholeIniString(L"General", L"Key").size(), length);
     }
 }
 
 TEST(Settings, Writing) {
     const ScratchSuite suite;
-    WriteIniString(L"Key", L"D\u00e4n");
-    EXPECT_EQ(suite.Ini(), "[General]\r\nKey=D\xE4n\r\n");
     suite.Ini("[Install]\r\nKey=1\r\n[General]\r\nKey=1\r\nOther=2\r\n");
-    WriteIniString(L"kEY", L"3");
+    WriteIniString(L"kEY", L"D\u00e4n");
     WriteIniString(L"New", L"4");
-    FlushIni();
-    EXPECT_EQ(suite.Ini(), "[Install]\r\nKey=1\r\n[General]\r\nKey=3\r\nOther=2\r\nNew=4\r\n");
+    EXPECT_EQ(suite.Ini(), "[Install]\r\nKey=1\r\n[General]\r\nKey=D\xE4n\r\nOther=2\r\nNew=4\r\n");
 }
 
 TEST(Settings, RefusedWrites) {
-    constexpr ULONGLONG kLarge = 1 << 20;
     const std::string before = "[General]\r\nKey=0\r\nOther=" + std::string(5000, 'o') + "\r\n";
-    const ULONGLONG needed = before.size() + 8192;
+    const ULONGLONG needed = before.size() + 8192, large = 1ULL << 32;
     // clang-format off
     const struct {
         const char* what;
@@ -98,31 +70,30 @@ TEST(Settings, RefusedWrites) {
         std::size_t length;
         bool isRefused;
     } rows[] = {
-        {"nothing in the way",     Spoilt::Not,      kLarge,     1,     false},
-        {"a folder in its place",  Spoilt::Folder,   kLarge,     1,     true },
-        {"locked",                 Spoilt::Locked,   kLarge,     1,     true },
-        {"read-only",              Spoilt::ReadOnly, kLarge,     1,     true },
+        {"a folder in its place",  Spoilt::Folder,   large,      1,     true },
+        {"locked",                 Spoilt::Locked,   large,      1,     true },
         {"just enough room",       Spoilt::Not,      needed,     1,     false},
         {"too little room",        Spoilt::Not,      needed - 1, 1,     true },
-        {"more than 4 GB free",    Spoilt::Not,      1ULL << 32, 1,     false},
         {"room unknown",           Spoilt::Not,      {},         1,     false},
-        {"the longest value",      Spoilt::Not,      kLarge,     32000, false},
-        {"a longer value",         Spoilt::Not,      kLarge,     32001, true },
+        {"the longest value",      Spoilt::Not,      large,      32000, false},
+        {"a longer value",         Spoilt::Not,      large,      32001, true },
     };
     // clang-format on
     const ReplacedImport freeSpace("GetDiskFreeSpaceExW", reinterpret_cast<void*>(&FreeSpace));
     for (const auto& row : rows) {
-        if (row.how == Spoilt::ReadOnly && !ReadOnlyStops()) continue;
         SCOPED_TRACE(row.what);
-        const ScratchFolder folder;
-        const std::wstring file = folder.Path() + suite::kIniFile;
-        WriteFileBytes(file, before);
+        const ScratchSuite suite;
+        suite.Ini(before);
         freeBytes = row.freeBytes;
-        const std::wstring told = L"VWizard 2001 Unable to write data to configuration file: \r\n" + file +
-                                  L".\r\n\r\nFile may be READ ONLY or may be locked by another application.";
-        const auto lock = Spoil(file, row.how);
-        const auto shared = row.how == Spoilt::Not ? OpenedByOthers(file) : win::UniqueFile();
-        EXPECT_EQ(Refusal(file, std::wstring(row.length, L'1')), row.isRefused ? told : L"");
-        EXPECT_TRUE(!shared || (FileBytes(file) == before) == row.isRefused);
+        const auto lock = Spoil(locations.IniFile, row.how);
+        const auto shared = row.how == Spoilt::Not ? OpenedByOthers() : win::UniqueFile();
+        std::wstring told;
+        try {
+            WriteIniString(L"Key", std::wstring(row.length, L'1'));
+        } catch (const win::AppError& error) {
+            told = error.Source() + std::to_wstring(error.Number()) + error.Description();
+        }
+        EXPECT_EQ(told, row.isRefused ? L"VWizard2001" + IniWriteError().Description() : L"");
+        EXPECT_TRUE(!shared || (suite.Ini() == before) == row.isRefused);
     }
 }

@@ -5,16 +5,11 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <memory>
 #include <thread>
 
 namespace {
 
-struct Destroy {
-    using pointer = HWND;
-    void operator()(HWND window) const { DestroyWindow(window); }
-};
-using Window = std::unique_ptr<HWND, Destroy>;
+using Window = win::Unique<HWND, DestroyWindow>;
 
 // Hidden windows, so that nothing disturbs whoever watches the tests.
 Window Make(const wchar_t* className, const wchar_t* caption, HWND parent = nullptr) {
@@ -26,77 +21,65 @@ Window Make(const wchar_t* className, const wchar_t* caption, HWND parent = null
                                 parent, nullptr, nullptr, nullptr));
 }
 
-// Whether another thread, which stands for another copy, takes the mode, and after how many milliseconds.
-// Modes that no wizard has, so that a real one beside the tests does not matter.
-bool Takes(std::int16_t mode, DWORD& time) {
+// Whether another thread, which stands for another copy, takes the mode. Modes that no wizard has, so that a
+// real one beside the tests does not matter.
+bool Takes(std::int16_t mode) {
     bool taken = false;
-    std::thread([&] {
-        const DWORD begin = GetTickCount();
-        InstanceClaim claim;
-        taken = claim.Take(mode, L"Varnel test claim");
-        time = GetTickCount() - begin;
-    }).join();
+    std::thread([&] { taken = InstanceClaim().Take(mode, L"Varnel test claim"); }).join();
     return taken;
 }
+
+// Recorded instead of done: a person may be at work beside the tests.
+HWND restored, brought;
+BOOL WINAPI Restore(HWND window, int how) { return restored = how == SW_SHOWNORMAL ? window : nullptr, TRUE; }
+BOOL WINAPI Bring(HWND window) { return brought = window, TRUE; }
 
 } // namespace
 
 TEST(SingleInstance, TitleAndClassDecide) {
-    const struct {
-        const wchar_t *className, *caption, *pattern;
-        bool found;
-    } rows[] = {
-        {L"VWizardTest", L"Varnel test title", L"Varnel test title", true},
-        {L"VWizardTest", L"Varnel test title", L"Varnel te*", true}, // as a pattern
-        {L"VWizardTest", L"Varnel test title", L"Varnel test", false},
-        {L"VWizardTest", L"Varnel Test Title", L"Varnel test title", false},
-        {L"VWizarForm", L"Varnel test title", L"Varnel test title", false},
-        {L"vwizardOther", L"Varnel test title", L"Varnel test title", false},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(testing::PrintToString(std::wstring(row.className) + L"/" + row.caption));
-        const Window window = Make(row.className, row.caption);
-        EXPECT_EQ(FindRunningWizard(row.pattern), row.found);
+    const std::pair<const wchar_t*, const wchar_t*> others[] = {{L"VWizardTest", L"Varnel test"},
+                                                                {L"VWizardTest", L"Varnel Test Title"},
+                                                                {L"VWizarForm", L"Varnel test title"},
+                                                                {L"vwizardOther", L"Varnel test title"}};
+    for (const auto& [className, caption] : others) {
+        const Window other = Make(className, caption);
+        EXPECT_FALSE(FindRunningWizard(L"Varnel test title")) << testing::PrintToString(caption);
     }
-}
-
-TEST(SingleInstance, SearchesDepthFirst) {
-    const Window outer = Make(L"VWizardTest", L"Varnel test tree");
-    const Window foreign = Make(L"Foreign", L"", outer.get());
-    const Window inner = Make(L"VWizardTest", L"Varnel test tree", foreign.get());
+    const Window outer = Make(L"VWizardTest", L"Varnel test title");
+    const Window foreign = Make(L"Foreign", L"", outer.Get());
+    const Window inner = Make(L"VWizardTest", L"Varnel test title", foreign.Get());
     HWND start = nullptr;
-    EXPECT_EQ(LocateWizardWindow(L"Varnel test tree", start), inner.get());
+    EXPECT_EQ(LocateWizardWindow(L"Varnel te*", start), inner.Get()) << "a pattern, depth first";
     EXPECT_EQ(start, GetDesktopWindow());
-    EXPECT_EQ(LocateWizardWindow(L"Varnel test tree", start = inner.get()), nullptr);
+    EXPECT_EQ(LocateWizardWindow(L"Varnel test title", start = inner.Get()), nullptr);
 }
-
-// Recorded instead of done: a person may be at work beside the tests.
-HWND brought = nullptr;
-BOOL WINAPI Bring(HWND window) { return (brought = window) != nullptr; }
 
 TEST(SingleInstance, WhatTheWizardHasOpenComesToTheFront) {
+    const ReplacedImport restore("ShowWindowAsync", reinterpret_cast<void*>(&Restore));
     const ReplacedImport bring("SetForegroundWindow", reinterpret_cast<void*>(&Bring));
     const Window form = Make(L"VWizardTest", L"Varnel test popup");
     EXPECT_TRUE(FindRunningWizard(L"Varnel test popup"));
-    EXPECT_EQ(brought, form.get());
-    const Window picker(CreateWindowW(L"VWizardTest", L"", WS_POPUP | WS_VISIBLE, 0, 0, 9, 9, form.get(),
+    EXPECT_EQ(brought, form.Get());
+    const Window picker(CreateWindowW(L"VWizardTest", L"", WS_POPUP | WS_VISIBLE, 0, 0, 9, 9, form.Get(),
                                       nullptr, nullptr, nullptr));
-    SetActiveWindow(picker.get());
+    SetActiveWindow(picker.Get());
     EXPECT_TRUE(FindRunningWizard(L"Varnel test popup"));
-    EXPECT_EQ(brought, picker.get());
+    EXPECT_EQ(brought, picker.Get());
+    EXPECT_EQ(restored, form.Get());
 }
 
 TEST(InstanceClaim, OnlyOneTakesTheMode) {
-    DWORD time = 0;
     {
         InstanceClaim first;
         EXPECT_TRUE(first.Take(90, L"Varnel test claim"));
-        EXPECT_TRUE(Takes(91, time)) << "another mode";
-        EXPECT_TRUE(Takes(90, time)) << "no window of the first one comes";
-        EXPECT_TRUE(time >= 1900 && time < 4000) << time;
+        const DWORD begin = GetTickCount();
+        EXPECT_TRUE(Takes(91)) << "another mode";
+        const DWORD second = GetTickCount();
+        EXPECT_TRUE(Takes(90)) << "no window of the first one comes";
+        EXPECT_GE(GetTickCount() - second, 1900u);
+        EXPECT_LT(second - begin, 1900u) << "waits for nobody";
         const Window window = Make(L"VWizardTest", L"Varnel test claim");
-        EXPECT_FALSE(Takes(90, time));
-        EXPECT_LT(time, 1000u);
+        EXPECT_FALSE(Takes(90));
     }
-    EXPECT_TRUE(Takes(90, time)) << "the first one has ended";
+    EXPECT_TRUE(Takes(90)) << "the first one has ended";
 }

@@ -1,6 +1,7 @@
 #include "app/SpecialFolders.h"
 
 #include "app/modLocations.h"
+#include "shell/cShellLink.h"
 #include "tests/support/Imports.h"
 
 #include <gtest/gtest.h>
@@ -9,25 +10,16 @@
 
 namespace {
 
-// What the shell answers, and what it was asked.
-struct Answers {
-    HRESULT found;
-    BOOL hasPath;
-    const wchar_t* path;
-    HWND owner;
-    int folder, lists;
-} shell;
+HRESULT found;       // what the shell answers
+const wchar_t* path; // null: refused
+int lists = 0;
 
-HRESULT WINAPI Locate(HWND owner, int folder, LPITEMIDLIST* items) {
-    shell.owner = owner;
-    shell.folder = folder;
-    if (shell.found != S_OK) return shell.found;
-    ++shell.lists;
-    *items = static_cast<LPITEMIDLIST>(CoTaskMemAlloc(2));
-    return S_OK;
+HRESULT WINAPI Locate(HWND, int, LPITEMIDLIST* items) {
+    if (found == S_OK) *items = (++lists, static_cast<LPITEMIDLIST>(CoTaskMemAlloc(2)));
+    return found;
 }
-BOOL WINAPI ToPath(LPCITEMIDLIST, LPWSTR path) { return shell.hasPath && lstrcpyW(path, shell.path); }
-void WINAPI Free(void*) { --shell.lists; }
+BOOL WINAPI ToPath(LPCITEMIDLIST, LPWSTR buffer) { return path && lstrcpyW(buffer, path); }
+void WINAPI Free(void*) { --lists; }
 
 } // namespace
 
@@ -35,29 +27,26 @@ TEST(SpecialFolders, NoFolderAndNoTextAreTwoThings) {
     const std::wstring most = L"C:\\" + std::wstring(256, L'x');
     const struct {
         HRESULT found;
-        BOOL hasPath;
         const wchar_t* path;
-        std::optional<std::wstring> result;
-        std::wstring withBackslash;
-    } rows[] = {
-        {S_FALSE, TRUE, L"C:\\Docs", {}, L""},
-        {S_OK, FALSE, L"", {}, L""},
-        {S_OK, TRUE, L"", L"", L""},
-        {S_OK, TRUE, L"C:\\Docs", L"C:\\Docs", L"C:\\Docs\\"},
-        {S_OK, TRUE, L"C:\\Docs\\", L"C:\\Docs\\", L"C:\\Docs\\"},
-        {S_OK, TRUE, most.c_str(), most, most + L"\\"},
-    };
+        std::wstring withBackslash, ofLinks; // "-": as it was
+    } rows[] = {{S_FALSE, L"C:\\Docs", L"", L"-"},
+                {S_OK, nullptr, L"", L"-"},
+                {S_OK, L"", L"", L"-"},
+                {S_OK, L"   ", L"   \\", L"-"},
+                {S_OK, L" C:\\Docs", L" C:\\Docs\\", L"C:\\Docs"},
+                {S_OK, L"C:\\Docs\\", L"C:\\Docs\\", L"C:\\Docs"},
+                {S_OK, most.c_str(), most + L"\\", most}};
     const ReplacedImport locate("SHGetSpecialFolderLocation", reinterpret_cast<void*>(&Locate));
     const ReplacedImport toPath("SHGetPathFromIDListW", reinterpret_cast<void*>(&ToPath));
     const ReplacedImport free("CoTaskMemFree", reinterpret_cast<void*>(&Free));
     for (const auto& row : rows) {
-        SCOPED_TRACE(testing::PrintToString(row.path));
-        shell = {row.found, row.hasPath, row.path, nullptr, 0, 0};
-        EXPECT_EQ(SpecialFolderPath(GetDesktopWindow(), CSIDL_PERSONAL), row.result);
-        EXPECT_EQ(shell.owner, GetDesktopWindow());
-        EXPECT_EQ(shell.folder, CSIDL_PERSONAL);
+        SCOPED_TRACE(testing::PrintToString(row.withBackslash));
+        found = row.found;
+        path = row.path;
+        std::wstring folder = L"-";
         EXPECT_EQ(GetSpecialFolder(CSIDL_APPDATA), row.withBackslash);
-        EXPECT_EQ(shell.owner, nullptr);
-        EXPECT_EQ(shell.lists, 0) << "not freed";
+        EXPECT_EQ(cShellLink().GetSystemFolderPath(nullptr, kStartMenuFolder, folder), found == S_OK && path);
+        EXPECT_EQ(folder, row.ofLinks);
+        EXPECT_EQ(lists, 0) << "not freed";
     }
 }

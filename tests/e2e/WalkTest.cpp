@@ -5,7 +5,7 @@
 #include "ftw/FtwPages.h"
 #include "ndw/NdwPages.h"
 #include "tests/e2e/WalksFile.h"
-#include "tests/ndw/DcpByHand.h"
+#include "tests/support/DcpByHand.h"
 #include "tests/support/DemoSuite.h"
 #include "tools/driver/Keyboard.h"
 #include "tools/driver/Windows.h"

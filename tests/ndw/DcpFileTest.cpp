@@ -1,7 +1,7 @@
 #include "ndw/DcpFile.h"
 
 #include "ndw/DcpFromAnswers.h"
-#include "tests/ndw/DcpByHand.h"
+#include "tests/support/DcpByHand.h"
 #include "tests/support/Scratch.h"
 
 #include <gtest/gtest.h>

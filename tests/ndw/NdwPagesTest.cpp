@@ -3,12 +3,10 @@
 #include "ndw/NdwPages.h"
 
 #include "app/StartUp.h"
-#include "tests/ndw/DcpByHand.h"
+#include "tests/support/DcpByHand.h"
 #include "tests/support/FormUnderTest.h"
-#include "tests/support/Imports.h"
+#include "tests/support/JapaneseSystem.h"
 #include "tests/support/Scratch.h"
-
-#include <commctrl.h>
 
 #include <gtest/gtest.h>
 
@@ -16,12 +14,13 @@ namespace {
 
 class NdwPagesTest : public testing::Test {
   protected:
-    // The texts of the boxes that leaving `page` by Next brings up, one at the most.
-    std::wstring BoxOn(std::int16_t page) {
+    // The text of the box that leaving `page` brings up, "" without one.
+    std::wstring BoxOn(std::int16_t page, Move move = Move::Next) {
         form.PageNo = page;
         form.StayOnPage = false;
-        const auto boxes = Answering({IDOK}, [&] { FindPage(kNdwPages, page)->leave(form, Move::Next); });
+        const auto boxes = Answering({IDOK}, [&] { FindPage(kNdwPages, page)->leave(form, move); });
         EXPECT_LE(boxes.size(), 1u);
+        EXPECT_EQ(form.StayOnPage, !boxes.empty());
         return boxes.empty() ? L"" : boxes[0].substr(boxes[0].find(L'\n') + 1);
     }
     ScratchSuite suite;
@@ -29,28 +28,14 @@ class NdwPagesTest : public testing::Test {
     frmWizard& form = test.form;
 };
 
-decltype(&WideCharToMultiByte) toBytes = nullptr;
-decltype(&MultiByteToWideChar) fromBytes = nullptr;
-
-UINT Japanese(UINT page) { return page == CP_ACP ? 932 : page; }
-
-int WINAPI ToJapanese(UINT page, DWORD flags, LPCWCH text, int length, LPSTR bytes, int size, LPCCH standIn,
-                      LPBOOL replaced) {
-    return toBytes(Japanese(page), flags, text, length, bytes, size, standIn, replaced);
-}
-
-int WINAPI FromJapanese(UINT page, DWORD flags, LPCCH bytes, int size, LPWSTR text, int length) {
-    return fromBytes(Japanese(page), flags, bytes, size, text, length);
-}
-
 } // namespace
 
 TEST_F(NdwPagesTest, ThePortsUseFollowsTheSelection) {
+    WriteFileBytes(suite.Path() + L"None.DCP", DcpByHand("178 00 00").Bytes()); // no port at all
     WriteFileBytes(suite.Path() + L"R&D.DCP", DcpByHand("178 04 00").Bytes());
     test.Show(kNdwPortPage);
     auto& ports = form.pool.cmbUserInput;
     auto& use = form.pool.lblUserPrompt[1];
-    EXPECT_EQ(ports.Send(CB_GETMINVISIBLE), 12);
     EXPECT_EQ(use.Text(), L"");
     const auto select = [&](int index, WORD code) {
         ports.Index(index);
@@ -75,45 +60,65 @@ TEST_F(NdwPagesTest, ThePortsUseFollowsTheSelection) {
 
 TEST_F(NdwPagesTest, NamesThatMayBeTakenAndTriedAgain) {
     const std::size_t longest = 259 - suite.Path().size() - 4;
-    const std::wstring tooLong = L"The name you specified is too long.\r\nIt may have up to " +
+    const std::wstring taken = L"The configuration name you specified is already used.",
+                       tooLong = L"The name you specified is too long.\r\nIt may have up to " +
                                  std::to_wstring(longest) + L" characters.";
     const struct {
         std::wstring name;
         Spoilt before;
-        std::wstring box; // its beginning
+        std::wstring box;
     } rows[] = {
         {L"A", Spoilt::Folder, L"The configuration file could not be written:"},
         {L"B", Spoilt::Not, L""},
-        {L"a", Spoilt::File, L""},
-        {L"A", Spoilt::Not, L"The configuration name you specified is already used."},
+        {L" a ", Spoilt::File, L""}, // as A, which this run has failed to write
+        {L"A", Spoilt::Not, taken},
         {std::wstring(longest, L'm'), Spoilt::Not, L""},
         {std::wstring(longest + 1, L'm'), Spoilt::Not, tooLong},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(Utf8(row.name));
-        if (row.before != Spoilt::Not) Spoil(suite.Path() + row.name + L".DCP", row.before);
+        if (row.before != Spoilt::Not) Spoil(suite.Path() + L"a.DCP", row.before);
         test.Show(kNdwNamePage);
+        form.ConfigWritten = false;
         form.pool.txtUserInput[0].Text(row.name);
         EXPECT_EQ(BoxOn(kNdwNamePage).substr(0, row.box.size()), row.box);
-        EXPECT_EQ(form.StayOnPage, !row.box.empty());
+        EXPECT_EQ(form.ConfigWritten, row.box.empty());
+        const bool isSelected = form.pool.txtUserInput[0].Send(EM_GETSEL) == MAKELONG(0, row.name.size());
+        EXPECT_TRUE(row.box.empty() || isSelected) << "to be typed over";
     }
 }
 
 // In a code page with characters of two bytes, which the places of a configuration file do not hold.
-TEST_F(NdwPagesTest, TextsOfOneByteACharacter) {
-    const ReplacedImport there("WideCharToMultiByte", reinterpret_cast<void*>(&ToJapanese));
-    const ReplacedImport back("MultiByteToWideChar", reinterpret_cast<void*>(&FromJapanese));
-    toBytes = there.Original<decltype(toBytes)>();
-    fromBytes = back.Original<decltype(fromBytes)>();
-    const std::pair<std::int16_t, std::wstring*> pages[] = {
-        {kNdwFiltLinesPage, &ndwSession.answers.removedLines},
-        {kNdwRxNamePage, &ndwSession.answers.receivePrefix}};
-    for (const auto& [page, answer] : pages) {
-        test.Show(page);
-        form.pool.txtUserInput[0].Text(L"\uff76"); // half-width: one byte
-        EXPECT_EQ(BoxOn(page), L"");
-        form.pool.txtUserInput[0].Text(L"a\u6a5f");
-        EXPECT_EQ(BoxOn(page).substr(0, 17), L"The character \"\u6a5f\"");
-        EXPECT_EQ(*answer, L"\uff76");
+TEST_F(NdwPagesTest, TextsAreStoredOnEveryWayAndRefusedForward) {
+    NdwAnswers& answers = ndwSession.answers;
+    const std::wstring character = L"The character \"\u6a5f\"", extension = L"The file extension";
+    // clang-format off
+    const struct {
+        std::int16_t page;
+        std::size_t box;
+        std::wstring typed;
+        Move move;
+        std::wstring refused;
+        const std::wstring& stored;
+        std::wstring asWhat;
+    } rows[] = {
+        {kNdwFiltLinesPage, 0, L"\uff76",  Move::Next, L"",       answers.removedLines,     L"\uff76"}, // one byte
+        {kNdwFiltLinesPage, 0, L"a\u6a5f", Move::Next, character, answers.removedLines,     L"\uff76"},
+        {kNdwFiltLinesPage, 0, L"a\u6a5f", Move::Back, L"",       answers.removedLines,     L"\uff76"},
+        {kNdwFiltLinesPage, 0, L"b",       Move::Back, L"",       answers.removedLines,     L"b"     },
+        {kNdwRxNamePage,    0, L"a\u6a5f", Move::Next, character, answers.receivePrefix,    L""      },
+        {kNdwRxNamePage,    0, L"c",       Move::Back, L"",       answers.receivePrefix,    L"c"     },
+        {kNdwRxNamePage,    1, L"a*",      Move::Next, extension, answers.receiveExtension, L""      },
+        {kNdwRxNamePage,    1, L"a*",      Move::Back, L"",       answers.receiveExtension, L""      },
+        {kNdwRxNamePage,    1, L".nc",     Move::Back, L"",       answers.receiveExtension, L"nc"    },
+    };
+    // clang-format on
+    const JapaneseSystem japanese;
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::PrintToString(row.typed));
+        test.Show(row.page);
+        form.pool.txtUserInput[row.box].Text(row.typed);
+        EXPECT_EQ(BoxOn(row.page, row.move).substr(0, row.refused.size()), row.refused);
+        EXPECT_EQ(row.stored, row.asWhat);
     }
 }

@@ -5,15 +5,13 @@
 TEST(PortNotes, ListAndUse) {
     const std::wstring just24(24, L'W'), cut24 = std::wstring(23, L'W') + L"\u2026";
     const std::wstring pairs = std::wstring(22, L'x') + L"\xD83D\xDE00yz";
-    struct Row {
+    const struct {
         PortNote note;
         std::wstring_view caption;
         std::wstring use;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {{false, {}}, L"COM3", L""},
         {{true, {}}, L"COM3 - on this computer", L""},
-        {{false, {L"LATHE 2"}}, L"COM3 - in use", L"COM3 is used by LATHE 2."},
         {{true, {L"A", L"B"}}, L"COM3 - on this computer, in use", L"COM3 is used by A and B."},
         {{false, {L"A", L"B", L"C"}}, L"COM3 - in use", L"COM3 is used by A, B and C."},
         {{false, {L"A", L"B", L"C", L"D", L"E"}}, L"COM3 - in use", L"COM3 is used by A, B, C and 2 more."},
@@ -22,7 +20,7 @@ TEST(PortNotes, ListAndUse) {
          L"COM3 is used by " + just24 + L" and " + cut24 + L"."},
         {{false, {pairs}}, L"COM3 - in use", L"COM3 is used by " + std::wstring(22, L'x') + L"\u2026."},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         EXPECT_EQ(PortCaption(3, row.note), row.caption);
         EXPECT_EQ(PortUseText(3, row.note), row.use);
     }

@@ -1,7 +1,7 @@
 #include "shell/IconList.h"
 
-#include "tests/shell/IconFile.h"
 #include "tests/support/Canvas.h"
+#include "tests/support/IconFile.h"
 #include "tests/support/Scratch.h"
 
 #include <gtest/gtest.h>

@@ -4,7 +4,7 @@
 #include "wizard/Layout.h"
 #include "app/StartUp.h"
 #include "ndw/NdwPages.h"
-#include "tests/ndw/DcpByHand.h"
+#include "tests/support/DcpByHand.h"
 #include "tests/support/FormUnderTest.h"
 #include "tests/support/Scratch.h"
 #include "win/Fonts.h"

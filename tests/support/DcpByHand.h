@@ -58,27 +58,25 @@ class DcpByHand {
 
     std::string Bytes() const { return bytes_; }
 
+  private:
     static std::string Blanks(std::size_t count) { return std::string(count, ' '); }
     static std::string Zeros(std::size_t count) { return std::string(count, '\0'); }
+    static int Value(char digit) { return digit <= '9' ? digit - '0' : digit - 'A' + 10; }
 
     // Pairs of hexadecimal digits in capitals and 'text', blanks between them as one likes.
     static std::string Hex(std::string_view digits) {
         std::string bytes;
-        for (std::size_t i = 0; i + 1 < digits.size(); ++i) {
-            if (digits[i] == ' ') continue;
-            if (digits[i] == '\'') {
-                for (++i; digits[i] != '\''; ++i)
-                    bytes += digits[i];
-                continue;
-            }
-            bytes += static_cast<char>(Value(digits[i]) * 16 + Value(digits[i + 1]));
-            ++i;
+        bool isText = false;
+        for (std::size_t i = 0; i < digits.size(); ++i) {
+            if (digits[i] == '\'')
+                isText = !isText;
+            else if (isText)
+                bytes += digits[i];
+            else if (digits[i] != ' ')
+                bytes += static_cast<char>(Value(digits[i]) * 16 + Value(digits[i + 1])), ++i;
         }
         return bytes;
     }
-
-  private:
-    static int Value(char digit) { return digit <= '9' ? digit - '0' : digit - 'A' + 10; }
 
     std::string bytes_;
 };
