@@ -1,7 +1,8 @@
-// Linked in front of the wizard's own objects: replaces the entries of the program's import table by calls
-// that can fail. The environment says which: VWIZARD_FAIL is the number of the call, from 1, with a "+"
-// behind it when every later one is to fail too. At the end the calls are listed in VWIZARD_FAIL_LOG, behind
-// the names of all functions that can fail, each with a "?" in front.
+// Linked in front of the wizard's own objects: puts calls that can fail in the place of functions that the
+// program imports; one that it does not import ends it. The environment says which: VWIZARD_FAIL is the
+// number of the call, from 1, with a "+" behind it when every later one is to fail too. At the end the calls
+// are listed in VWIZARD_FAIL_LOG, behind the names of all functions that can fail, each with a "?" in front.
+#include "tests/support/Imports.h"
 #include "win/Handles.h"
 
 #include <windows.h>
@@ -12,6 +13,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <deque>
 #include <string>
 #include <vector>
 
@@ -112,34 +114,6 @@ const Row kRows[] = {
 
 #undef FAILS
 
-template <class Type> Type* At(std::uintptr_t offset) {
-    return reinterpret_cast<Type*>(reinterpret_cast<std::uintptr_t>(GetModuleHandleW(nullptr)) + offset);
-}
-
-void Replace(const char* name, IMAGE_THUNK_DATA& entry) {
-    for (const Row& row : kRows) {
-        if (std::strcmp(row.name, name) != 0) continue;
-        DWORD protection = 0;
-        VirtualProtect(&entry, sizeof entry, PAGE_READWRITE, &protection);
-        *row.original = reinterpret_cast<void*>(entry.u1.Function);
-        entry.u1.Function = reinterpret_cast<std::uintptr_t>(row.replacement);
-        VirtualProtect(&entry, sizeof entry, protection, &protection);
-    }
-}
-
-void ReplaceImports() {
-    const auto* headers =
-        At<IMAGE_NT_HEADERS>(static_cast<std::uintptr_t>(At<IMAGE_DOS_HEADER>(0)->e_lfanew));
-    const auto& imports = headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
-    for (auto* library = At<IMAGE_IMPORT_DESCRIPTOR>(imports.VirtualAddress); library->Name != 0; ++library) {
-        auto* names = At<IMAGE_THUNK_DATA>(library->OriginalFirstThunk);
-        auto* entries = At<IMAGE_THUNK_DATA>(library->FirstThunk);
-        for (; names->u1.AddressOfData != 0; ++names, ++entries)
-            if (!IMAGE_SNAP_BY_ORDINAL(names->u1.Ordinal))
-                Replace(At<IMAGE_IMPORT_BY_NAME>(names->u1.AddressOfData)->Name, *entries);
-    }
-}
-
 // What the saving of a link does is reached through an object: its class's own table is patched.
 HRESULT STDMETHODCALLTYPE FailingSave(IPersistFile* file, LPCOLESTR path, BOOL remember);
 decltype(&FailingSave) originalSave = nullptr;
@@ -173,7 +147,8 @@ class Injector {
         everAfter = which && std::strchr(which, '+') != nullptr;
         calls.reserve(4096);
         ReplaceSave();
-        ReplaceImports();
+        for (const Row& row : kRows)
+            *row.original = replaced_.emplace_back(row.name, row.replacement).Original<void*>();
     }
     ~Injector() {
         const char* path = std::getenv("VWIZARD_FAIL_LOG");
@@ -188,6 +163,9 @@ class Injector {
         DWORD written = 0;
         WriteFile(file.Get(), list.data(), static_cast<DWORD>(list.size()), &written, nullptr);
     }
+
+  private:
+    std::deque<ReplacedImport> replaced_;
 };
 
 const Injector injector;

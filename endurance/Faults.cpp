@@ -19,7 +19,7 @@ struct Scene {
     std::set<std::string> functions; // that can fail
 
     explicit Scene(const wchar_t* mode) : arguments(mode) {
-        ReplaceProgram(suite, L"SOAK_FAULTY");
+        Copy(FromEnvironment(L"SOAK_FAULTY"), suite.Folder() + L"VWizard.exe");
         suite.AddIcons();
         AddSamples(suite, {L"Sample"});
     }

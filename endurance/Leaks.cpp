@@ -139,18 +139,6 @@ void PickIcon(Patient& patient) {
     if (patient.Walk().CreateConfiguration().empty()) Fail(L"the file was made");
 }
 
-void Import(Patient& patient) {
-    patient.ClickTo(&Walker::Next, L"Import Sample CNC Configuration Files");
-    DeleteFileW((patient.Suite().Settings() + L"Sample.dcp").c_str());
-    for (HWND list : ControlsOf(patient.Walk().Main(), L"ListBox"))
-        Ask(list, LB_SETSEL, TRUE, 0);
-    patient.Walk().Press(patient.Walk().Next());
-    patient.Walk().Answer();
-    for (int i = 0; !Exists(patient.Suite().Settings() + L"Sample.dcp"); ++i, Sleep(10))
-        if (i > 500) Fail(L"no import");
-    patient.ClickTo(&Walker::Back, L"Import Sample CNC Configuration Files");
-}
-
 struct Row {
     const wchar_t* what;
     const wchar_t* arguments;
@@ -164,7 +152,6 @@ constexpr Row kRows[] = {
     {L"tours, First-Time Setup Wizard", L"",     TourFtw,   1000, 6},
     {L"message windows",                L"/NDW", AskToExit, 500,  20},
     {L"icon pickers",                   L"/NDW", PickIcon,  500,  6},
-    {L"imports",                        L"",     Import,    200,  4},
 };
 // clang-format on
 

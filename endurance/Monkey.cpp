@@ -1,7 +1,6 @@
 // Random clicks on each wizard. A page that comes back shows what it showed when it was left; every page has
 // a focus and one default button; no click ends the program other than properly.
 // A seed gives the same clicks again: ./soak --seed N monkey
-#include "endurance/BadText.h"
 #include "endurance/Scene.h"
 #include "endurance/Soak.h"
 #include "tests/support/DemoSuite.h"
@@ -24,6 +23,8 @@ constexpr std::wstring_view kStoredByNext[] = {L"Specify CNC file location", L"C
 constexpr UINT kSystemMessages[] = {WM_SETTINGCHANGE, WM_SYSCOLORCHANGE, WM_THEMECHANGED, WM_FONTCHANGE,
                                     WM_DISPLAYCHANGE, WM_TIMECHANGE,     WM_CANCELMODE,   WM_DEVICECHANGE};
 constexpr const wchar_t* kTexts[] = {L"", L"a", L"M1", L"x7", L"Tap", L"(N"};
+constexpr const wchar_t* kBadTexts[] = {L"CON",  L"..\\x",        L"a*b",      L"abc.",
+                                        L"a\tz", L"\xD83D\xDE00", L"a\x2215z", L"<b>x</b>"};
 
 bool IsLink(HWND button) { return (GetWindowLongW(button, GWL_STYLE) & BS_TYPEMASK) == BS_OWNERDRAW; }
 
@@ -182,7 +183,7 @@ class Monkey {
     // One text in four may be one that is refused: what the page shows then is not what it stores.
     void Type(HWND box) {
         const bool bad = Below(4) == 0;
-        const std::wstring text = bad ? OneOf(BadTexts()).text : OneOf(kTexts);
+        const std::wstring text = bad ? OneOf(kBadTexts) : OneOf(kTexts);
         isTyped_ = isTyped_ || bad;
         if (bad) remembered_.erase(page_);
         Did((bad ? L"paste " : L"type ") + text);

@@ -1,7 +1,6 @@
-// Each of the bad texts, and names about as long as a path may be, as the name of a configuration: a message
-// or just one regular file of just that name, and nothing anywhere else.
+// Texts that break programs, and names about as long as a path may be, as the name of a configuration: a
+// message or just one regular file of just that name, and nothing anywhere else.
 #include "app/Blanks.h"
-#include "endurance/BadText.h"
 #include "endurance/Scene.h"
 #include "endurance/Soak.h"
 #include "tools/driver/Walker.h"
@@ -9,48 +8,99 @@
 #include "tests/support/DemoSuite.h"
 
 #include <algorithm>
+#include <iterator>
+#include <set>
 
 namespace {
+
+// clang-format off
+constexpr const wchar_t* kRefused[] = {
+    // devices and ways elsewhere
+    L"CON", L"nul.txt", L"COM1", L" COM1", L"COM1 .x", L"LPT0", L"lpt9.nc", L"COM\x00B9", L"conout$", L"\\\\.\\COM1", L"AUX .DCP",
+    L"..", L"...", L"..\\x", L"../x", L"C:x", L"\\\\?\\x", L"\\\\host\\share", L"x:stream", L"x::$DATA", L"\\", L".. ", L" .",
+    // tails that get lost, wildcards, control characters, nothing
+    L"abc.", L"abc. ", L"tab\t", L"a*b", L"a?b", L"a\"b", L"a|b", L"*.*", L"<b>x</b>",
+    L"a\x01z", L"a\x08z", L"a\x1Fz", L"a\x7Fz", L"a\x81z", L"", L" ", L"\t", L"\x3000",
+    // outside the code page, best-fit characters among them; there already, or equal to these but for case
+    L"\xD83D\xDE00", L"a\xD83Dz", L"\x05E9\x05DC", L"a\x202Egpj.z", L"e\x0301", L"\xFF21\xFF22", L"a\x2215z", L"a\xFF0Fz",
+    L"\xFF23\xFF2F\xFF2D\xFF11", L"a\xFFFFz", L"a\x2028z", L"a\xE000z", L"MIXED CASE", L"\x00FC\x00D6\x00DF",
+};
+constexpr const wchar_t* kFiles[] = {
+    L"COM10", L"NULL", L"x.COM1", L"CLOCK$", L"tail blank ", L" head blank", L".head", L"\x00A0", L"%TEMP%", L"%s%n%x", L"\x20AC 5",
+    L"a&b", L"a'b", L"a;b", L"a=b", L"[General]", L"$(x)", L"a^b", L"x.DCP", L"VarnelDnc.ini", L"two  blanks", L"-x", L"0",
+};
+// clang-format on
+constexpr const wchar_t* kTakenNames[] = {L"Mixed Case", L"\x00DC\x00F6\x00DF"};
 
 constexpr std::size_t kLongestPath = 259;
 constexpr std::size_t kFileSize = 5449;
 
 std::wstring Shown(const std::wstring& text) {
-    std::wstring shown;
-    for (const wchar_t c : text.substr(0, 40)) {
-        wchar_t code[8];
-        if (c >= L' ' && c < 0x7F)
-            shown += c;
-        else if (swprintf(code, 8, L"\\x%04X", static_cast<unsigned>(c)) > 0)
-            shown += code;
-    }
-    return L"\"" + shown + L"\" (" + std::to_wstring(text.size()) + L")";
+    return L"\"" + text.substr(0, 40) + L"\" (" + std::to_wstring(text.size()) + L")";
 }
 
-std::vector<BadText> AllNames(std::size_t longest) {
-    std::vector<BadText> names = BadTexts();
-    for (const std::size_t length : {std::size_t{1}, longest - 1, longest})
-        names.push_back({std::wstring(length, length == longest ? L'm' : L'l'), As::File});
-    names.push_back({std::wstring(longest + 1, L'l'), As::Refused});
+// What a name of that text has to become.
+enum class As { File, Refused };
+using Names = std::vector<std::pair<std::wstring, As>>;
+
+Names AllNames(std::size_t longest) {
+    Names names = {{std::wstring(longest - 1, L'l'), As::File},
+                   {std::wstring(longest, L'm'), As::File},
+                   {std::wstring(longest + 1, L'l'), As::Refused},
+                   {std::wstring(30000, L'\\'), As::Refused}};
+    for (const wchar_t* text : kRefused)
+        names.emplace_back(text, As::Refused);
+    for (const wchar_t* text : kFiles)
+        names.emplace_back(text, As::File);
     return names;
 }
 
-void Try(Tally& tally, const DemoSuite& suite, Walker& walker, const BadText& name) {
-    const std::wstring shown = Shown(name.text);
-    walker.name = name.text;
+// Every file (with its size) and folder below `folder`, which ends in a backslash.
+void AddTree(const std::wstring& folder, std::set<std::wstring>& tree) {
+    WIN32_FIND_DATAW found{};
+    const win::UniqueFind search(FindFirstFileW((folder + L"*").c_str(), &found));
+    if (search.Get() == INVALID_HANDLE_VALUE) return;
+    do {
+        const std::wstring name = found.cFileName;
+        if (name == L"." || name == L"..") continue;
+        const bool isFolder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+        tree.insert(folder + name + (isFolder ? L"\\" : L"|" + std::to_wstring(found.nFileSizeLow)));
+        if (isFolder) AddTree(folder + name + L"\\", tree);
+    } while (FindNextFileW(search.Get(), &found));
+}
+
+std::set<std::wstring> Tree(const std::wstring& folder) {
+    std::set<std::wstring> tree;
+    AddTree(folder, tree);
+    return tree;
+}
+
+// What is only in `after`, or has another size there; what has gone carries a "-".
+std::vector<std::wstring> Changes(const std::set<std::wstring>& before, const std::set<std::wstring>& after) {
+    std::vector<std::wstring> changes;
+    std::set_difference(after.begin(), after.end(), before.begin(), before.end(),
+                        std::back_inserter(changes));
+    for (const std::wstring& entry : before)
+        if (!after.contains(entry)) changes.push_back(L"-" + entry);
+    return changes;
+}
+
+void Try(Tally& tally, const DemoSuite& suite, Walker& walker, const std::wstring& name, As wanted) {
+    const std::wstring shown = Shown(name);
+    walker.name = name;
     const auto before = Tree(suite.Folder());
     const std::wstring message = walker.CreateConfiguration();
     const auto changes = Changes(before, Tree(suite.Folder()));
     const std::wstring made = changes.empty() ? L"nothing" : changes[0];
     if (walker.Heading() == L"Finished") {
-        const std::wstring path = suite.Settings() + TrimBlanks(name.text) + L".DCP";
-        tally.Expect(name.name == As::File && changes.size() == 1 &&
+        const std::wstring path = suite.Settings() + TrimBlanks(name) + L".DCP";
+        tally.Expect(wanted == As::File && changes.size() == 1 &&
                          made == path + L"|" + std::to_wstring(kFileSize),
                      shown + L" made " + std::to_wstring(changes.size()) + L": " + made);
         SendNotifyMessageW(walker.Button(L"&New"), BM_CLICK, 0, 0);
         tally.Expect(walker.Walk().trouble.empty(), shown + L": no way back to the name page");
     } else {
-        tally.Expect(changes.empty() && name.name == As::Refused && !message.empty(),
+        tally.Expect(changes.empty() && wanted == As::Refused && !message.empty(),
                      shown + L" was refused with \"" + message + L"\" and made " + made);
     }
 }
@@ -70,7 +120,7 @@ void CheckNames(Tally& tally) {
     const auto names = AllNames(longest);
     const std::size_t step = tally.Quick() ? 4 : 1;
     for (std::size_t i = tally.Seed() % step; i < names.size(); i += step)
-        Try(tally, suite, walker, names[i]);
+        Try(tally, suite, walker, names[i].first, names[i].second);
     for (const std::wstring& change : Changes(drive, Tree(L"C:\\")))
         tally.Expect(change.starts_with(suite.Settings()) || change.find(L".log|") != std::wstring::npos,
                      L"changed elsewhere: " + change);

@@ -23,10 +23,8 @@ constexpr Check kChecks[] = {
     {"names",    CheckNames},
     {"faults",   CheckFaults},
     {"ini",      CheckSettingsFile},
-    {"folder",   CheckFolder},
     {"windows",  CheckWindows},
     {"copies", CheckTwoCopies},
-    {"planted",  CheckPlanted},
     {"monkey",   CheckMonkey},
     {"leaks",    CheckLeaks},
 };

@@ -39,9 +39,7 @@ class Tally {
 void CheckNames(Tally& tally);
 void CheckFaults(Tally& tally);
 void CheckSettingsFile(Tally& tally);
-void CheckFolder(Tally& tally);
 void CheckWindows(Tally& tally);
 void CheckTwoCopies(Tally& tally);
-void CheckPlanted(Tally& tally);
 void CheckMonkey(Tally& tally);
 void CheckLeaks(Tally& tally);

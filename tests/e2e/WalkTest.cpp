@@ -20,6 +20,7 @@
 #include <map>
 #include <optional>
 #include <ostream>
+#include <sstream>
 
 namespace {
 
@@ -131,6 +132,13 @@ void LogOff(const Walk& walk) {
     PostMessageW(walk.On().FormWindow(), WM_ENDSESSION, TRUE, 0);
 }
 
+// One after the other: "tab shift+tab".
+void PressKeys(const Text& keys) {
+    std::wistringstream each(keys);
+    for (Text key; each >> key;)
+        PressKey(key);
+}
+
 // Links are opened as by a double click, so that the system says where they lead.
 void Open(Walk& walk, const Text& link) {
     walk.isOpened = true;
@@ -179,10 +187,9 @@ void ExpectRefusal(const Walk& walk, const Text& name, const Text& words) {
     Expect(Names(walk.suite.Settings() + L"*"), before);
 }
 
-// Calls `act` with a form of this process, the suite's folder as the program's and the current one, as when
-// the wizard runs.
-void InProcess(const Walk& walk, const PageBook& book, void (*act)(frmWizard&, const Text&),
-               const Text& text) {
+// "1 17 0": of that wizard, on that page, the link of that index. A form of this process follows it, the
+// suite's folder as the program's and the current one, as when the wizard runs.
+void FollowLink(const Walk& walk, const Text& link) {
     const ProgramLocations own = locations;
     ProgramLocations suites = own;
     suites.AppPath = suites.ProgramFolder = walk.suite.Folder();
@@ -190,31 +197,20 @@ void InProcess(const Walk& walk, const PageBook& book, void (*act)(frmWizard&, c
     wchar_t before[MAX_PATH] = L"";
     GetCurrentDirectoryW(MAX_PATH, before);
     SetCurrentDirectoryW(walk.suite.Folder().c_str());
-    frmWizard form(book, {.configAllowed = true});
+    frmWizard form(link.front() == L'0' ? FtwBook() : NdwBook(), {.configAllowed = true});
     form.ConfigName = L"Mill 3 \x00E4";
-    act(form, text);
+    form.PageNo = static_cast<std::int16_t>(std::stoi(link.substr(2)));
+    form.lblHyperlink_Click(static_cast<std::int16_t>(link.back() - L'0'));
     SetCurrentDirectoryW(before);
     UseLocations(own);
 }
 
-// "1 17 0": of that wizard, on that page, the link of that index.
-void FollowLink(frmWizard& form, const Text& link) {
-    form.PageNo = static_cast<std::int16_t>(std::stoi(link.substr(2)));
-    form.lblHyperlink_Click(static_cast<std::int16_t>(link.back() - L'0'));
-}
-
 // `commandLine` is what the link starts, "" for nothing.
 void ExpectLink(Walk& walk, const Text& link, const Text& commandLine) {
-    InProcess(walk, link.front() == L'0' ? FtwBook() : NdwBook(), FollowLink, link);
+    FollowLink(walk, link);
     if (commandLine.empty()) return;
     const Text program = commandLine.substr(0, commandLine.find(L".exe") + 4);
     ExpectStart(walk, program.substr(program.rfind(L'\\') + 1), commandLine);
-}
-
-void HandOver(frmWizard& form, const Text& flags) {
-    startUp.ConfigLaunch = flags.back() & 1;
-    form.ConfigWritten = flags.back() & 2;
-    NdwBook().exiting(form);
 }
 
 struct Verb {
@@ -228,14 +224,14 @@ const Verb kVerbs[] = {
     // what there is before
     {L"icons",     [](Walk& w, const Text&, const Text&) { w.suite.AddIcons(); }},
     {L"samples",   [](Walk& w, const Text&, const Text&) { w.suite.AddSamples(); }},
+    {L"plant",     [](Walk& w, const Text& a, const Text&) { w.suite.Add(L"libplanted.dll", a); }},
     {L"write",     [](Walk&, const Text& a, const Text& b) { WriteFileBytes(a, Utf8(b)); }},
     {L"copy",      [](Walk&, const Text& a, const Text& b) { Copy(a, b); }},
-    {L"make",      [](Walk& w, const Text& a, const Text& b) { WriteFileBytes(w.suite.Settings() + a + L".DCP", DcpByHand(Utf8(b)).Bytes()); }},
     {L"spoil",     [](Walk& w, const Text& a, const Text& b) { w.lock = Spoil(a, kSpoilt.at(b)); }},
     {L"do",        [](Walk& w, const Text& a, const Text&) { w.Follow(a); }},
     // what the person does
     {L"start",     [](Walk& w, const Text& a, const Text&) { w.wizard.emplace(w.suite.CommandLine(a)); }},
-    {L"dialog",    [](Walk& w, const Text& a, const Text&) { w.suite.AddDialogs(); w.wizard.emplace(w.suite.CommandLine(a, L"dialogs.exe"), WizardDriver::Wait::No); }},
+    {L"dialog",    [](Walk& w, const Text& a, const Text&) { w.suite.Add(L"dialogs.exe", L"dialogs.exe"); w.wizard.emplace(w.suite.CommandLine(a, L"dialogs.exe"), WizardDriver::Wait::No); }},
     {L"begin",     [](Walk& w, const Text& a, const Text&) { w.wizard.emplace(w.suite.CommandLine(a), WizardDriver::Wait::No); }},
     {L"opens",     [](Walk& w, const Text&, const Text&) { w.wizard->WaitForOpening(); }},
     {L"again",     [](Walk& w, const Text& a, const Text&) { StartAgain(w, a); }},
@@ -255,7 +251,7 @@ const Verb kVerbs[] = {
     {L"mark",      [](Walk& w, const Text& a, const Text&) { Ask(w.On().Input(L"ListBox", L""), LB_SETSEL, TRUE, std::stoi(a)); }},
     {L"box",       [](Walk& w, const Text& a, const Text& b) { EXPECT_EQ(Utf8(w.On().AnswerBox(kButtons.at(a))).find(Utf8(b)), 0u) << Utf8(b); }},
     {L"at",        [](Walk& w, const Text& a, const Text&) { w.wizard->GoTo(a); }},
-    {L"key",       [](Walk&, const Text& a, const Text&) { PressKey(a); }},
+    {L"key",       [](Walk&, const Text& a, const Text&) { PressKeys(a); }},
     {L"keys",      [](Walk&, const Text& a, const Text&) { TypeKeys(a); }},
     {L"click",     [](Walk& w, const Text& a, const Text&) { Click(w.On().Button(a)); }},
     {L"double",    [](Walk& w, const Text& a, const Text&) { Click(w.On().Button(a)), Click(w.On().Button(a), 9, WM_LBUTTONDBLCLK); }},
@@ -278,13 +274,11 @@ const Verb kVerbs[] = {
     {L"typed",     [](Walk& w, const Text& a, const Text& b) { Expect(TextOf(w.On().Input(L"Edit", a)), b); }},
     {L"picked",    [](Walk& w, const Text& a, const Text& b) { Expect(TextOf(w.On().Input(L"ComboBox", a)), b); }},
     {L"items",     [](Walk& w, const Text& a, const Text&) { Expect(Items(w.On().Input(L"ListBox", L"")), a); }},
-    {L"focus",     [](Walk& w, const Text& a, const Text&) { EXPECT_EQ(w.On().Focus(), w.On().Input(L"Edit", a)); }},
     {L"focused",   [](Walk& w, const Text& a, const Text&) { ExpectFocus(w, a); }},
     {L"default",   [](Walk& w, const Text& a, const Text&) { EXPECT_EQ(GetDlgItem(w.On().Window(), LOWORD(Ask(w.On().Window(), DM_GETDEFID))), w.On().Button(a)); }},
     {L"corner",    [](Walk& w, const Text&, const Text&) { ExpectCorner(w); }},
     // what is left behind
     {L"files",     [](Walk&, const Text& a, const Text& b) { Expect(Names(a), b); }},
-    {L"same",      [](Walk&, const Text& a, const Text& b) { EXPECT_EQ(FileBytes(a), FileBytes(b)); }},
     {L"holds",     [](Walk&, const Text& a, const Text& b) { EXPECT_NE(FileBytes(a).find(Utf8(b)), std::string::npos) << Utf8(b); }},
     {L"lacks",     [](Walk&, const Text& a, const Text& b) { EXPECT_EQ(FileBytes(a).find(Utf8(b)), std::string::npos) << FileBytes(a); }},
     {L"shown",     [](Walk&, const Text& a, const Text& b) { Expect(std::to_wstring(FileBytes(a).at(kShowCommandAt)), b); }},
@@ -292,7 +286,6 @@ const Verb kVerbs[] = {
     {L"dcp",       [](Walk& w, const Text& a, const Text& b) { ExpectBytes(FileBytes(w.suite.Settings() + a + L".DCP"), DcpByHand(Utf8(b)).Bytes()); }},
     {L"started",   [](Walk& w, const Text& a, const Text& b) { ExpectStart(w, a, b); }},
     {L"link",      [](Walk& w, const Text& a, const Text& b) { ExpectLink(w, a, b); }},
-    {L"hand",      [](Walk& w, const Text& a, const Text&) { InProcess(w, NdwBook(), HandOver, a); }},
     {L"starts",    [](Walk& w, const Text& a, const Text&) { Expect(std::to_wstring(w.suite.StartCount()), a); }},
 };
 // clang-format on
@@ -307,6 +300,7 @@ Text Walk::Replaced(Text text) const {
     const std::pair<const wchar_t*, Text> kWords[] = {
         {L"{suite}", suite.Folder()},
         {L"{settings}", suite.Settings()},
+        {L"{temp}", suite.Folder().substr(0, suite.Folder().find(L"Varnel"))},
         {L"{public}", Folder(CSIDL_COMMON_DOCUMENTS)},
         {L"{desktop}", Folder(CSIDL_DESKTOPDIRECTORY)},
         {L"{start}", Folder(CSIDL_STARTMENU)},
@@ -318,7 +312,6 @@ Text Walk::Replaced(Text text) const {
                  list += L"D:\\Cnc " + std::to_wstring(i) + L";";
              return list + L"E:";
          }()},
-        {L"{250 m}", Text(250, L'm')},
         {L"{tab}", L"\t"},
         {L"{n}", L"\r\n"}};
     for (const auto& [word, meaning] : kWords)

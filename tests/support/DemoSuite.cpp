@@ -68,7 +68,9 @@ DemoSuite::DemoSuite() {
                Quoted(L"DocViewer.exe") + L" \"%1\"");
 }
 
-void DemoSuite::AddDialogs() const { Copy(BuildFolder() + L"dialogs.exe", Folder() + L"dialogs.exe"); }
+void DemoSuite::Add(const std::wstring& file, const std::wstring& name) const {
+    Copy(BuildFolder() + file, Folder() + name);
+}
 
 void DemoSuite::CopyAll(const std::wstring& part) const {
     const std::wstring from = BuildFolder() + part;

@@ -23,7 +23,8 @@ class DemoSuite {
     // Copies the product's icons or samples into the suite; without them there is nothing to choose from.
     void AddIcons() const { CopyAll(L"Icons\\"); }
     void AddSamples() const { CopyAll(L"Samples\\"); }
-    void AddDialogs() const; // the program that shows the small windows by themselves
+    // A file that is built beside the wizard, under a name of its own.
+    void Add(const std::wstring& file, const std::wstring& name) const;
 
     // What `program` (a file name such as L"VConfig.exe") was started with so far, the oldest first.
     std::vector<Start> Starts(const std::wstring& program) const;

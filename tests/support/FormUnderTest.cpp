@@ -14,6 +14,8 @@ const PageBook& BookOf(std::int16_t mode) {
     return mode == kNewDevice ? NdwBook() : FtwBook();
 }
 
+constexpr LONG kBulletOffset = 180; // twips between a bullet and its text
+
 std::wstring NoteAt(win::RichText& control, LONG position) {
     CHARRANGE range{position, position + 1};
     control.Send(EM_EXSETSEL, 0, reinterpret_cast<LPARAM>(&range));
@@ -28,7 +30,7 @@ std::wstring NoteAt(win::RichText& control, LONG position) {
     if (look.dwEffects & CFE_BOLD) note += L"b";
     if (look.dwEffects & CFE_ITALIC) note += L"i";
     if (look.yHeight / 20 != 8) note += std::to_wstring(look.yHeight / 20);
-    if (paragraph.wNumbering == PFN_BULLET) note += L"*";
+    if (paragraph.wNumbering == PFN_BULLET) note += paragraph.dxOffset == kBulletOffset ? L"*" : L"?";
     if (paragraph.dxStartIndent) note += L" " + std::to_wstring(paragraph.dxStartIndent);
     if (paragraph.dxRightIndent) note += L" " + std::to_wstring(paragraph.dxRightIndent);
     return note;

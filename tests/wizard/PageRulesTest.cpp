@@ -42,6 +42,12 @@ bool IsButton(HWND control, LONG type) {
     return ClassOf(control) == L"Button" && (GetWindowLongW(control, GWL_STYLE) & BS_TYPEMASK) == type;
 }
 
+LOGFONTW FontOf(HFONT font) {
+    LOGFONTW face{};
+    GetObjectW(font, sizeof face, &face);
+    return face;
+}
+
 // ---- keyboard and screen reader ----
 
 // The object that Wine makes for a list does not look for the label in front of it, as Windows' does.
@@ -73,11 +79,17 @@ TEST_P(PageRules, WhatTakesTheFocusHasANameAndAccessKeysAreUnique) {
             }
             if (IsButton(control, BS_OWNERDRAW)) {
                 ExpectRole(control, ROLE_SYSTEM_LINK);
+                EXPECT_TRUE(
+                    FontOf(reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0))).lfUnderline);
                 EXPECT_EQ(SpokenOf(control).name, win::WindowText(control));
             }
             const bool isPush = IsButton(control, BS_PUSHBUTTON) || IsButton(control, BS_DEFPUSHBUTTON);
             if (isPush || IsButton(control, BS_OWNERDRAW)) { // else a double click would be two clicks
                 EXPECT_TRUE(GetWindowLongW(control, GWL_STYLE) & BS_NOTIFY);
+            }
+            EXPECT_FALSE(IsButton(control, BS_RADIOBUTTON)); // a click would not mark it
+            if (ClassOf(control) == L"Edit") {
+                EXPECT_LE(SendMessageW(control, EM_GETLIMITTEXT, 0, 0), 250);
             }
             if (ClassOf(control) != win::RichText::kClassName && AccessKey(control)) {
                 EXPECT_EQ(++uses[AccessKey(control)], 1) << "one access key twice";
@@ -115,12 +127,6 @@ TEST_P(PageRules, TabGoesDownThePageAndEnterIsNext) {
 
 // ---- looks ----
 
-LOGFONTW FontOf(HFONT font) {
-    LOGFONTW face{};
-    GetObjectW(font, sizeof face, &face);
-    return face;
-}
-
 int Height(int points) {
     return -MulDiv(points, GetDeviceCaps(win::WindowDc(nullptr).Get(), LOGPIXELSY), 72);
 }
@@ -140,7 +146,9 @@ bool HasText(HWND control) {
 }
 
 TEST_P(PageRules, EveryTextIsPaintedInAFontAsHighAsTheResolutionWants) {
-    EXPECT_EQ(FontOf(win::FontFor(win::FontUse::Heading)).lfHeight, Height(12));
+    const LOGFONTW heading = FontOf(win::FontFor(win::FontUse::Heading));
+    EXPECT_EQ(heading.lfHeight, Height(12));
+    EXPECT_EQ(heading.lfWeight, FW_BOLD);
     OnEachPage([this] {
         for (const HWND control : test.VisibleControls()) {
             SCOPED_TRACE(Utf8(ClassOf(control) + L" " + win::WindowText(control)));
@@ -179,9 +187,6 @@ TEST(PageLooks, OfEachKindOfMarkUp) {
                  L"{* 150 150}specifying the location of your CNC program files/configuring CNC communication settings/"
                  L"advising you about organizing and protecting data/launching the Varnel DNC Navigator/{}/"
                  L"{b}Note: Carefully completing this wizard saves time and helps you use Varnel DNC more effectively.{}//"},
-        {10, L"C:\\none;", L"{rb}The folder you specified does not exist:{}/     {b}C:\\none;{}//"
-                 L"Click {b}Next{} to create a new folder with this name.//Click {b}Back{} to choose a different file location.//"
-                 L"You can change the file location or add more folders later by clicking {b}Root folders{} in the Varnel DNC File Manager's {b}Configure{} menu."},
         {10, L"<b>D</b><r>", L"{rb}The folder you specified does not exist:{}/     {b}<b>D</b><r>{}//"
                  L"Click {b}Next{} to create a new folder with this name.//Click {b}Back{} to choose a different file location.//"
                  L"You can change the file location or add more folders later by clicking {b}Root folders{} in the Varnel DNC File Manager's {b}Configure{} menu."},

@@ -1,4 +1,5 @@
-// The frame: what loading the form leaves, where things stand, what the input pool's own operations do.
+// The frame: what loading the form leaves, where things stand and how they are drawn, what the input pool's
+// own operations do.
 
 #include "wizard/frmWizard.h"
 #include "app/Registry.h"
@@ -7,6 +8,7 @@
 #include "app/Suite.h"
 #include "ftw/FtwPages.h"
 #include "ndw/NdwPages.h"
+#include "tests/support/Canvas.h"
 #include "tests/support/FormUnderTest.h"
 #include "tests/support/Scratch.h"
 #include "win/Screen.h"
@@ -18,6 +20,22 @@
 namespace {
 
 using namespace win::literals;
+
+// The pixels of a drawn control on a ground of no color of the system.
+std::vector<COLORREF> Drawn(const frmWizard& form, win::Control& control, UINT state = 0) {
+    const Canvas canvas(RGB(1, 2, 3));
+    DRAWITEMSTRUCT item{};
+    item.hwndItem = control.Handle();
+    item.hDC = canvas.Dc();
+    item.itemState = state;
+    GetClientRect(item.hwndItem, &item.rcItem);
+    SendMessageW(form.Hwnd(), WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&item));
+    std::vector<COLORREF> pixels;
+    for (LONG y = 0; y < item.rcItem.bottom; ++y)
+        for (LONG x = 0; x < item.rcItem.right; ++x)
+            pixels.push_back(canvas.At(x, y));
+    return pixels;
+}
 
 class Loaded : public testing::TestWithParam<std::int16_t> {
   protected:
@@ -50,6 +68,9 @@ TEST_P(Loaded, LeavesTheSuiteAsEveryStartDoes) {
     EXPECT_EQ(ReadIniString(L"General", L"Other", L""), L"2");
     EXPECT_EQ(suite.Ini().find("\r\n\r\n"), std::string::npos) << suite.Ini();
     EXPECT_EQ(ReadRegString(HKEY_LOCAL_MACHINE, kRunOnce, L"Varnel_DNC_FTSW", L"gone"), L"gone");
+    wchar_t folder[MAX_PATH] = L"";
+    GetCurrentDirectoryW(MAX_PATH, folder);
+    EXPECT_EQ(folder + std::wstring(L"\\"), suite.Path());
     EXPECT_EQ(form.PageNo, 1);
     EXPECT_TRUE(form.ConfirmExit);
     EXPECT_TRUE(IsWindowVisible(form.Hwnd()));
@@ -69,6 +90,15 @@ TEST_P(Loaded, StandsInTheMiddleEachPartAtItsPlace) {
     for (int i = 0; i < 5; ++i)
         EXPECT_EQ(form.picAppIcon[static_cast<std::size_t>(i)].Left().value, 1560 + 960 * i);
     EXPECT_TRUE(form.cmdNext.Visible() && form.cmdCancel.Visible());
+    EXPECT_TRUE(form.picLogo.Visible() && form.picVarnel.Visible());
+    EXPECT_EQ(Drawn(form, form.picAppIcon[0])[0], GetSysColor(COLOR_WINDOW));
+    const Canvas canvas(RGB(1, 2, 3));
+    SendMessageW(form.Hwnd(), WM_ERASEBKGND, reinterpret_cast<WPARAM>(canvas.Dc()), 0);
+    const LONG row = win::Px(layout::kRowTop), column = win::Px(layout::kColumnWidth);
+    EXPECT_EQ(canvas.At(column - 1, row - 1), RGB(0x27, 0x45, 0x5F));
+    EXPECT_EQ(canvas.At(column, row - 1), GetSysColor(COLOR_WINDOW));
+    EXPECT_EQ(canvas.At(0, row), GetSysColor(COLOR_BTNSHADOW));
+    EXPECT_EQ(canvas.At(0, row + 2), GetSysColor(COLOR_BTNFACE));
 }
 
 std::vector<COLORREF> Colors(const HICON icon) {
@@ -135,6 +165,25 @@ TEST_P(Loaded, ToolTips) {
     EXPECT_EQ(TipOf(form, form.picHeader), L"Progress: 16");
 }
 
+// Also where the scheme gives links the color of the ground.
+TEST(Link, CanBeReadAndShowsTheFocus) {
+    FormUnderTest test(kFirstTimeSetup);
+    test.Show(7);
+    win::Control& link = test.form.pool.lblHyperlink[0];
+    const INT element = COLOR_HOTLIGHT;
+    const COLORREF before = GetSysColor(element), ground = GetSysColor(COLOR_WINDOW);
+    for (const COLORREF color : {before, ground}) {
+        SetSysColors(1, &element, &color);
+        const auto pixels = Drawn(test.form, link);
+        EXPECT_NE(pixels, std::vector<COLORREF>(pixels.size(), ground));
+        EXPECT_NE(pixels, Drawn(test.form, link, ODS_FOCUS));
+    }
+    SetSysColors(1, &element, &before);
+    SetCursor(nullptr);
+    link.Send(WM_SETCURSOR, reinterpret_cast<WPARAM>(link.Handle()), HTCLIENT);
+    EXPECT_EQ(GetCursor(), LoadCursorW(nullptr, IDC_HAND));
+}
+
 TEST(InputPool, NeutralState) {
     FormUnderTest test(kFirstTimeSetup);
     InputPool& pool = test.form.pool;
@@ -160,6 +209,7 @@ TEST(InputPool, NeutralState) {
     EXPECT_FALSE(pool.cmbUserInput.Visible() || pool.fraContainer.Visible());
     EXPECT_EQ(pool.cmbUserInput.Left().value, 1560);
     EXPECT_EQ(test.form.txtInfo.Height().value, 2175);
+    EXPECT_LE(InputColumn(test.form).List(1, 1000_tw).Height().value, 1000);
 }
 
 std::wstring FaceOf(win::Control& input) {
