@@ -20,7 +20,9 @@ namespace {
 DWORD startError;   // of CreateProcess
 bool userRefuses;   // what the shell asks
 std::wstring asked; // "no COM" when the shell was asked before that was begun
-HANDLE given[2];    // to who started a program
+
+// Names of what whoever starts a program has to close.
+constexpr const wchar_t *kProcess = L"Varnel test process", *kThread = L"Varnel test thread";
 
 template <class... Part> void Note(bool ofShell, const Part&... parts) {
     const bool isComBegun = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED) == S_FALSE;
@@ -35,9 +37,7 @@ BOOL WINAPI Start(LPCWSTR, LPWSTR line, LPSECURITY_ATTRIBUTES, LPSECURITY_ATTRIB
     if (startError) return line[0] = L'x', FALSE; // as the system may
     Note(false, line, L" as ",
          look->dwFlags == STARTF_USESHOWWINDOW ? std::to_wstring(look->wShowWindow) : L"?");
-    for (HANDLE& each : given)
-        each = CreateEventW(nullptr, TRUE, FALSE, nullptr);
-    *started = {given[0], given[1], 7, 8};
+    *started = {CreateEventW(nullptr, 1, 0, kProcess), CreateEventW(nullptr, 1, 0, kThread), 7, 8};
     return TRUE;
 }
 BOOL WINAPI Allow(DWORD process) { return asked += L", front " + std::to_wstring(process), TRUE; }
@@ -109,7 +109,5 @@ TEST(Launch, WhatTheSystemIsAsked) {
         std::thread([&] { EXPECT_EQ(row.act(), row.result); }).join(); // knows nothing of COM yet
         EXPECT_EQ(asked, row.asked);
     }
-    DWORD flags = 0;
-    EXPECT_FALSE(GetHandleInformation(given[0], &flags) || GetHandleInformation(given[1], &flags))
-        << "leaked";
+    EXPECT_FALSE(OpenEventW(SYNCHRONIZE, 0, kProcess) || OpenEventW(SYNCHRONIZE, 0, kThread)) << "leaked";
 }

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <shlobj.h>
+
 namespace {
 
 std::size_t flushes = 0;
@@ -17,6 +19,9 @@ BOOL WINAPI CountFlushes(LPCSTR section, LPCSTR key, LPCSTR value, LPCSTR file) 
     flushes += section == nullptr;
     return systemWrite(section, key, value, file);
 }
+
+UINT browseFlags = 0;
+LPITEMIDLIST WINAPI Browse(LPBROWSEINFOW what) { return browseFlags = what->ulFlags, nullptr; }
 
 TEST(LocationPages, WhatIsStored) {
     const std::wstring most = L"D:\\" + std::wstring(247, L'x'), tooLong = L"The file location is too long";
@@ -31,9 +36,9 @@ TEST(LocationPages, WhatIsStored) {
         {"in quotation marks", L"", L"\"D:\\a b\"", L" D:\\a b", L"", "=D:\\a b;"},
         {"kept quotation marks", L"\"D:\\a\"", L"\"D:\\a\"", L" \"D:\\a\"", L"", "=\"D:\\a\";"},
         {"125 double bytes", L"", std::wstring(125, L'\x6A5F'), L"\x6A5F", L"", "=\x8B\x40\x8B\x40"},
-        {"126 double bytes", L"", std::wstring(126, L'\x6A5F'), L"\x6A5F", tooLong, "=old;"},
+        {"251 bytes", L"", std::wstring(125, L'\x6A5F') + L"x", L"\x6A5F", tooLong, "=old;"},
         {"kept 400 bytes", std::wstring(400, L'y'), L"", L"yyy", L"", std::string(400, 'y')},
-        {"endless", std::wstring(32001, L'<'), L"", L"<<<\x2026\r", L"Unable to write", "=old;"},
+        {"endless", std::wstring(32001, L'z'), L"", L"zzz\x2026\r", L"Unable to write", "=old;"},
     };
     const ScratchSuite suite;
     const JapaneseSystem japanese;
@@ -44,20 +49,21 @@ TEST(LocationPages, WhatIsStored) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);
         suite.Ini("[General]\r\nTransmitRoot=old;\r\n");
-        ftwSession.location = {row.kept, false};
+        const bool floppy = &row == rows;
+        ftwSession.location = {row.kept, floppy};
         if (!row.typed.empty()) {
             test.Show(9);
             form.pool.txtUserInput[0].Text(row.typed);
             LeaveFtwLocation(form, Move::Next);
         }
-        form.pool.chkUserInput[0].Checked(true); // as a page before may leave it
+        form.pool.chkUserInput[0].Checked(!floppy); // as a page before may leave it
         test.Show(10);
         EXPECT_NE(form.txtInfo.Text().find(row.shown), std::wstring::npos);
         const auto boxes = Answering({IDOK}, [&] { form.cmdNext_Click(); });
         EXPECT_EQ(boxes.size(), row.refused.empty() ? 0u : 1u);
         EXPECT_TRUE(boxes.empty() || boxes[0].find(row.refused) != std::wstring::npos);
         EXPECT_NE(suite.Ini().find(row.stored), std::string::npos) << suite.Ini().substr(0, 80);
-        EXPECT_FALSE(ftwSession.location.floppy);
+        EXPECT_EQ(ftwSession.location.floppy, floppy);
     }
     for (const wchar_t* documents : {L"C:\\Docs\\", L""}) { // of all users
         ProgramLocations with = locations;
@@ -67,6 +73,9 @@ TEST(LocationPages, WhatIsStored) {
         EXPECT_EQ(form.pool.lblHyperlink[1].Visible(), *documents != 0) << "the default folder lies in them";
     }
     EXPECT_EQ(flushes, std::size(rows));
+    const ReplacedImport browse("SHBrowseForFolderW", reinterpret_cast<void*>(&Browse));
+    FtwHyperlink(form, 0);
+    EXPECT_EQ(browseFlags, BIF_RETURNONLYFSDIRS | BIF_NEWDIALOGSTYLE | BIF_BROWSEINCLUDEFILES);
 }
 
 } // namespace

@@ -9,6 +9,10 @@ TEST(SampleImport, EntriesAreTheNamesWithoutExtension) {
     EXPECT_EQ(SampleEntries({}), Texts{L"(No sample files were found)"});
 }
 
+TEST(SampleImport, FilesOfTheEntriesInOneList) {
+    EXPECT_EQ(SampleFileList(L"C:\\", {L"a.b", L"c"}), std::wstring_view(L"C:\\a.b.DCP\0C:\\c.DCP\0", 20));
+}
+
 TEST(SampleImport, NamesWhatIsLeftOut) {
     const std::wstring ten = LeftOutMessage(Texts(10, L"Mill")), more = LeftOutMessage(Texts(12, L"Mill"));
     EXPECT_TRUE(more.starts_with(L"These samples") && ten.ends_with(L"\r\nMill\r\nMill"));

@@ -3,11 +3,25 @@
 #include "ftw/FtwPages.h"
 #include "ftw/SampleImport.h"
 #include "tests/support/FormUnderTest.h"
+#include "tests/support/Imports.h"
 #include "tests/support/Scratch.h"
 
 #include <gtest/gtest.h>
 
+namespace {
+
+bool wasThere; // when the configuration program was started
+
+// NOLINTNEXTLINE(readability-function-size): as the system has it
+BOOL WINAPI Start(LPCWSTR, LPWSTR, LPSECURITY_ATTRIBUTES, LPSECURITY_ATTRIBUTES, BOOL, DWORD, LPVOID, LPCWSTR,
+                  LPSTARTUPINFOW, LPPROCESS_INFORMATION) {
+    return wasThere = FileExists(ConfigurationFile(L"Mill")), FALSE;
+}
+
+} // namespace
+
 TEST(SamplePages, LeavesOutWhatTheShellCannotTake) {
+    const ReplacedImport start("CreateProcessW", reinterpret_cast<void*>(&Start));
     const ScratchSuite suite;
     const ScratchFolder samples;
     WriteFileBytes(samples.Path() + L"Mill.dcp", "sample");
@@ -21,10 +35,11 @@ TEST(SamplePages, LeavesOutWhatTheShellCannotTake) {
         with.SamplesPath = samples;
         with.SettingsPath = settings;
         UseLocations(with);
-        const auto boxes = Answering({IDOK}, [&] { ImportSelectedSamples(test.form); });
+        const auto boxes = Answering({IDYES}, [&] { LeaveFtwImportSample(test.form, Move::Next); });
         std::vector<std::wstring> leftOut = {std::wstring(260, L'x')};
         if (!fits) leftOut.push_back(L"Mill");
-        EXPECT_EQ(boxes, std::vector{L"Varnel DNC Setup Wizard\r\n" + LeftOutMessage(leftOut)});
-        EXPECT_TRUE(FileExists(suite.Path() + L"Mill.dcp"));
+        EXPECT_EQ(boxes, (std::vector{L"Varnel DNC Setup Wizard\r\n" + ImportQuestion(2),
+                                      L"Varnel DNC Setup Wizard\r\n" + LeftOutMessage(leftOut)}));
+        EXPECT_EQ(wasThere, fits);
     }
 }

@@ -28,6 +28,9 @@ TEST(PortUse, PassOverWhatIsNoConfiguration) {
     for (const auto& [name, bytes] : files)
         WriteFileBytes(folder.Path() + name, bytes);
     Spoil(folder.Path() + L"X.DCP", Spoilt::Folder);
+    constexpr DWORD kAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const win::UniqueFile saved(CreateFileW((folder.Path() + L"LATHE2.DCP").c_str(), GENERIC_WRITE, kAll,
+                                            nullptr, OPEN_EXISTING, 0, nullptr)); // by VConfig, just now
     const auto lock = Spoil(folder.Path() + L"locked.DCP", Spoilt::Locked);
     auto uses = PortsInUse(folder);
     EXPECT_EQ(uses.size(), 2u);

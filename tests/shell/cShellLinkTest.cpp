@@ -2,15 +2,21 @@
 
 #include "app/Files.h"
 #include "shell/modShellLink.h"
+#include "tests/support/Imports.h"
 #include "tests/support/Scratch.h"
 
 #include <gtest/gtest.h>
+
+#include <shellapi.h>
 
 namespace {
 
 bool Create(const std::wstring& link, const std::wstring& to) {
     return cShellLink().CreateShellLink(link, to, L"", L"", L"", 0, SW_SHOW);
 }
+
+WORD deleteFlags = 0;
+int WINAPI Operate(LPSHFILEOPSTRUCTW what) { return deleteFlags = what->fFlags, 1; }
 
 TEST(cShellLink, ReadsBackWhatItWrote) {
     constexpr std::size_t kShowCommandAt = 0x3C; // some versions do not read it back
@@ -59,6 +65,9 @@ TEST(cShellLink, RefusesWithoutAWord) {
     EXPECT_FALSE(FolderExists(suite.Path() + L"none")) << "made with its parents";
     EXPECT_EQ(FileNames(suite.Path() + L"one\\"), std::vector{managers});
     EXPECT_EQ(FileNames(suite, L"V*.lnk"), std::vector{managers});
+    const ReplacedImport operate("SHFileOperationW", reinterpret_cast<void*>(&Operate));
+    UpdateShortcutsIn(nullptr, suite.Path(), false, true);
+    EXPECT_EQ(deleteFlags, FOF_SILENT | FOF_NOCONFIRMATION | FOF_NOERRORUI | FOF_ALLOWUNDO);
 }
 
 } // namespace
