@@ -10,8 +10,6 @@ std::wstring FromEnvironment(const wchar_t* name) {
     return value;
 }
 
-bool Exists(const std::wstring& path) { return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES; }
-
 void AddSamples(const DemoSuite& suite, std::initializer_list<const wchar_t*> names) {
     CreateDirectoryW((suite.Folder() + L"Samples").c_str(), nullptr);
     for (const wchar_t* name : names)

@@ -9,7 +9,6 @@ class DemoSuite;
 
 // The value of an environment variable, "" when it is not set.
 std::wstring FromEnvironment(const wchar_t* name);
-bool Exists(const std::wstring& path);
 
 // Sample configurations of these names.
 void AddSamples(const DemoSuite& suite, std::initializer_list<const wchar_t*> names);

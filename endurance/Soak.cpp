@@ -26,7 +26,6 @@ constexpr Check kChecks[] = {
     {"windows",  CheckWindows},
     {"copies", CheckTwoCopies},
     {"monkey",   CheckMonkey},
-    {"leaks",    CheckLeaks},
 };
 // clang-format on
 

@@ -42,4 +42,3 @@ void CheckSettingsFile(Tally& tally);
 void CheckWindows(Tally& tally);
 void CheckTwoCopies(Tally& tally);
 void CheckMonkey(Tally& tally);
-void CheckLeaks(Tally& tally);

@@ -139,6 +139,20 @@ void PressKeys(const Text& keys) {
         PressKey(key);
 }
 
+// Loads a library by its bare name within the wizard, as parts of the system do that it has loaded.
+void LoadWithin(const Walk& walk, const Text& library) {
+    const win::UniqueKernelHandle process(OpenProcess(PROCESS_ALL_ACCESS, FALSE, walk.On().ProcessId()));
+    const std::size_t room = (library.size() + 1) * sizeof library[0];
+    void* name = VirtualAllocEx(process.Get(), nullptr, room, MEM_COMMIT, PAGE_READWRITE);
+    WriteProcessMemory(process.Get(), name, library.c_str(), room, nullptr);
+    // The system's own libraries lie at the same place in every process.
+    const auto load = reinterpret_cast<LPTHREAD_START_ROUTINE>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "LoadLibraryW")));
+    const win::UniqueKernelHandle thread(
+        CreateRemoteThread(process.Get(), nullptr, 0, load, name, 0, nullptr));
+    EXPECT_EQ(WaitForSingleObject(thread.Get(), INFINITE), WAIT_OBJECT_0);
+}
+
 // Links are opened as by a double click, so that the system says where they lead.
 void Open(Walk& walk, const Text& link) {
     walk.isOpened = true;
@@ -259,6 +273,7 @@ const Verb kVerbs[] = {
     {L"tree",      [](Walk& w, const Text&, const Text&) { WaitForTree(w); }},
     {L"open",      [](Walk& w, const Text& a, const Text&) { Open(w, a); }},
     {L"close",     [](Walk& w, const Text&, const Text&) { PostMessageW(w.On().Window(), WM_CLOSE, 0, 0); }},
+    {L"load",      [](Walk& w, const Text& a, const Text&) { LoadWithin(w, a); }},
     {L"log",       [](Walk& w, const Text&, const Text&) { LogOff(w); }},
     {L"exit",      [](Walk& w, const Text& a, const Text&) { Expect(std::to_wstring(w.On().WaitForExit()), a.empty() ? L"0" : a); }},
     {L"refused",   [](Walk& w, const Text& a, const Text& b) { ExpectRefusal(w, a, b); }},

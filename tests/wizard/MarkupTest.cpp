@@ -89,6 +89,7 @@ TEST(Markup, OfAPage) {
     text.Send(EM_EXGETSEL, 0, reinterpret_cast<LPARAM>(&range));
     EXPECT_EQ(range.cpMin + range.cpMax, 0);
     EXPECT_FALSE(text.Send(EM_CANUNDO));
+    EXPECT_EQ(text.Send(WM_GETDLGCODE) & (DLGC_WANTALLKEYS | DLGC_WANTTAB | DLGC_HASSETSEL), 0);
     EXPECT_EQ(Described(text), L"{b}a<r>D</r>{}/{* 150 150}b/{}c");
     test.Show(4);
     test.form.PageNo = 99;
