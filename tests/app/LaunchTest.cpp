@@ -24,7 +24,7 @@ std::wstring asked; // "no COM" when the shell was asked before that was begun
 // Names of what whoever starts a program has to close.
 constexpr const wchar_t *kProcess = L"Varnel test process", *kThread = L"Varnel test thread";
 
-template <class... Part> void Note(bool ofShell, const Part&... parts) {
+template <class... Part> void Note(bool ofShell, Part... parts) {
     const bool isComBegun = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED) == S_FALSE;
     CoUninitialize();
     asked = ofShell && !isComBegun ? L"no COM" : (std::wstring() + ... + parts);
@@ -59,9 +59,14 @@ int WINAPI Operate(LPSHFILEOPSTRUCTW what) {
 }
 
 LPITEMIDLIST WINAPI Browse(LPBROWSEINFOW what) {
-    Note(true, what->lpszTitle, L" from ", reinterpret_cast<const wchar_t*>(what->lParam), L" with ",
-         std::to_wstring(what->ulFlags), what->hwndOwner == GetDesktopWindow() ? L"" : L" without owner");
+    Note(true, what->lpszTitle, L" with ", std::to_wstring(what->ulFlags),
+         what->hwndOwner == GetDesktopWindow() ? L"" : L" without owner");
+    what->lpfn(nullptr, BFFM_INITIALIZED, 0, what->lParam);
     return nullptr;
+}
+LRESULT WINAPI Send(HWND, UINT message, WPARAM isPath, LPARAM path) {
+    const bool selects = message == BFFM_SETSELECTIONW && isPath;
+    return asked += selects ? std::wstring(L" from ") + reinterpret_cast<const wchar_t*>(path) : L" ?", 0;
 }
 
 const std::wstring kLongest(259, L'x');
@@ -74,6 +79,7 @@ TEST(Launch, WhatTheSystemIsAsked) {
     const ReplacedImport shell("ShellExecuteExW", reinterpret_cast<void*>(&AskShell));
     const ReplacedImport operate("SHFileOperationW", reinterpret_cast<void*>(&Operate));
     const ReplacedImport browse("SHBrowseForFolderW", reinterpret_cast<void*>(&Browse));
+    const ReplacedImport send("SendMessageW", reinterpret_cast<void*>(&Send));
     constexpr DWORD kNoRights = 740;
     // clang-format off
     const struct {
@@ -97,8 +103,8 @@ TEST(Launch, WhatTheSystemIsAsked) {
         {0,         [] { return DeleteAnyFile(L"", 0, nullptr); },                                L"",                                            false},
         {0,         [] { return CopyFiles(L"C:\\a" + (L'\0' + kLongest) + L"x", L"D:\\", 0, nullptr); }, L"",                                     false},
         {0,         [] { return CopyFiles(L"C:\\a", kLongest + L"x", 0, nullptr); },              L"",                                            false},
-        {0,         [] { return BrowseForFolder(L"", GetDesktopWindow(), L"T", 65).empty(); },    L"T from C:\\ with 65",                         true },
-        {0,         [] { return BrowseForFolder(L"D:\\", GetDesktopWindow(), L"", 0).empty(); },  L" from D:\\ with 0",                           true },
+        {0,         [] { return BrowseForFolder(L"", GetDesktopWindow(), L"T", 65).empty(); },    L"T with 65 from C:\\",                         true },
+        {0,         [] { return BrowseForFolder(L"D:\\", GetDesktopWindow(), L"", 0).empty(); },  L" with 0 from D:\\",                           true },
     };
     // clang-format on
     for (const auto& row : rows) {

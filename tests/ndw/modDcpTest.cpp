@@ -17,16 +17,6 @@ std::span<const unsigned char> AsBytes(const std::string& text) {
 
 } // namespace
 
-TEST(modDcp, DefaultsWithoutAnswers) {
-    DcpRecords records;
-    EXPECT_EQ(AsText(records), std::string(5449, '\0'));
-    SetDcpHeaderDefaults(records.header);
-    SetDcpRecord4Defaults(records.record4);
-    const DcpByHand expected("184 07, 196 07, 210 00 00, 240 '^J', 250 '%', 497 01, 1079 00 00, 1103 '  ', "
-                             "1165 00 00 00 00 00 00 00 00 00 00");
-    ExpectBytes(AsText(records), expected.Bytes());
-}
-
 TEST(modDcp, TheFileIsReadOnlyWhenItIsOne) {
     const std::string file = DcpByHand("49 'x', 178 2C 01, 486 '('").Bytes();
     DcpRecords records;
