@@ -15,3 +15,11 @@ inline void Require(bool holds, const char* what) {
 
 // Each fuzz program says here what has to hold for the input made by `from`.
 void Examine(Generator& from);
+
+// What the fuzzer calls; each program includes this once.
+extern "C" inline __attribute__((used)) int LLVMFuzzerTestOneInput(const unsigned char* data,
+                                                                   std::size_t size) {
+    Generator from({data, size});
+    Examine(from);
+    return 0;
+}

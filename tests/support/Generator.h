@@ -5,13 +5,12 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <random>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
-// Makes test input of bytes: of those that a fuzzer hands over, or of RandomBytes. When the bytes are used
+// Makes test input of bytes: those that a fuzzer hands over. When the bytes are used
 // up every choice is the first one, so that all input ends.
 class Generator {
   public:
@@ -46,14 +45,6 @@ class Generator {
   private:
     std::span<const unsigned char> bytes_;
 };
-
-// The same bytes for the same seed, on every machine.
-inline std::vector<unsigned char> RandomBytes(std::uint32_t seed, std::size_t count) {
-    std::mt19937 random(seed);
-    std::vector<unsigned char> bytes(count);
-    std::generate(bytes.begin(), bytes.end(), [&] { return static_cast<unsigned char>(random() >> 24); });
-    return bytes;
-}
 
 // Answers that the pages can give; the texts are ASCII, the name is a valid one.
 inline NdwAnswers ValidAnswers(Generator& from) {
