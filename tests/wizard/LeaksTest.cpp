@@ -2,8 +2,8 @@
 
 #include "app/StartUp.h"
 #include "shell/frmIcons.h"
-#include "tests/shell/IconFile.h"
 #include "tests/support/FormUnderTest.h"
+#include "tests/support/IconFile.h"
 #include "tests/support/Scratch.h"
 #include "wizard/frmMessage.h"
 
