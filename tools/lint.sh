@@ -1,7 +1,7 @@
 #!/bin/bash
 # Static checks; each is a function of the sources alone, so what passed once is not checked again.
 #   tools/lint.sh format | layers | cppcheck | tidy
-# The debug preset must have been built (its dependency log tells which headers a source includes).
+# Both presets must have been built (their dependency logs tell which headers a source includes).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -43,7 +43,7 @@ tidy_flags=(--target=i686-w64-mingw32 -nostdinc++
 tidy_keys() {
     local root checks
     root=$PWD/
-    checks=$(cat .clang-tidy tools/lint.sh | sha256sum | cut -c1-16)
+    checks=$({ cat .clang-tidy tools/lint.sh; clang-tidy --version; } | sha256sum | cut -c1-16)
     # A source compiled twice has two entries of the same headers: the first is enough.
     declare -A headers
     local line source=
@@ -53,7 +53,7 @@ tidy_keys() {
         "$root"*.cpp) source=${line#"$root"}; [ -z "${headers[$source]+x}" ] && headers[$source]=$source || source= ;;
         "$root"*.h) [ -z "$source" ] || headers[$source]+=" ${line#"$root"}" ;;
         esac
-    done < <(ninja -C build/debug -t deps 2> /dev/null)
+    done < <(ninja -C build/debug -t deps 2> /dev/null; ninja -C build/release -t deps 2> /dev/null)
     for source in $(sources); do
         # shellcheck disable=SC2086
         echo "$source $checks$(cat ${headers[$source]:-$source} 2> /dev/null | sha256sum | cut -c1-32)"
@@ -61,7 +61,7 @@ tidy_keys() {
 }
 
 tidy_one() {
-    local source=$1 stamp=build/tidy/$2
+    local source=$1 stamp=$tidy_passed/$2
     [ -e "$stamp" ] && return 0
     clang-tidy --quiet "$source" -- "${tidy_flags[@]}" 2> "$stamp.err" && touch "$stamp" && rm "$stamp.err"
 }
@@ -69,7 +69,8 @@ tidy_one() {
 # The tests are left out, as from cppcheck: their macros cost more time than all the program's sources.
 # What the last commit or nobody yet has committed comes first: there a fault is most likely.
 check_tidy() {
-    mkdir -p build/tidy
+    export tidy_passed=${XDG_CACHE_HOME:-$HOME/.cache}/vwizard-tidy
+    mkdir -p "$tidy_passed"
     local keys changed
     keys=$(tidy_keys | grep -v '^tests/')
     changed=$(git diff --name-only HEAD~1 2> /dev/null || true)

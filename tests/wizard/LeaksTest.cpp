@@ -35,7 +35,10 @@ void Free(void* block) {
 // Entries in use of the process's own table of GDI objects.
 int GdiObjects() {
     constexpr std::size_t kEntries = 16384, kStride = 24, kType = 14, kTableInPeb = 0x94;
-    const auto* peb = reinterpret_cast<const unsigned char*>(NtCurrentTeb()->ProcessEnvironmentBlock);
+    PROCESS_BASIC_INFORMATION process{};
+    NtQueryInformationProcess(GetCurrentProcess(), ProcessBasicInformation, &process, sizeof(process),
+                              nullptr);
+    const auto* peb = reinterpret_cast<const unsigned char*>(process.PebBaseAddress);
     const auto* table = *reinterpret_cast<const unsigned char* const*>(peb + kTableInPeb);
     int count = 0;
     for (std::size_t i = 0; i < kEntries; ++i)
