@@ -1,10 +1,6 @@
 // Each call to the system that a whole run of either wizard makes fails, once alone and once with all that
 // follow it: the wizard goes on or ends, without a crash, and says only what it has to say.
-#include "endurance/Scene.h"
 #include "endurance/Soak.h"
-#include "tools/driver/Walker.h"
-
-#include "tests/support/DemoSuite.h"
 
 #include <algorithm>
 #include <set>
@@ -19,7 +15,7 @@ struct Scene {
     std::set<std::string> functions; // that can fail
 
     explicit Scene(const wchar_t* mode) : arguments(mode) {
-        Copy(FromEnvironment(L"SOAK_FAULTY"), suite.Folder() + L"VWizard.exe");
+        suite.Add(L"faulty.exe", L"VWizard.exe");
         suite.AddIcons();
         AddSamples(suite, {L"Sample"});
     }
@@ -52,11 +48,10 @@ Journey Run(Scene& scene, const std::wstring& failing) {
     return walker.Walk();
 }
 
-void RunAll(Tally& tally, Scene& scene) {
+void RunAll(Scene& scene) {
     SetEnvironmentVariableW(L"VWIZARD_FAIL_LOG", scene.Log().c_str());
     const Journey whole = Run(scene, L"0");
-    tally.Expect(whole.trouble.empty() && whole.Passed(L"Finished"),
-                 L"the undisturbed run: " + whole.Story());
+    EXPECT_TRUE(whole.trouble.empty() && whole.Passed(L"Finished")) << "undisturbed: " << Utf8(whole.Story());
     std::istringstream log(FileBytes(scene.Log()));
     for (std::string name; std::getline(log, name);)
         if (name.starts_with('?'))
@@ -64,37 +59,31 @@ void RunAll(Tally& tally, Scene& scene) {
         else
             scene.calls.push_back(name);
     SetEnvironmentVariableW(L"VWIZARD_FAIL_LOG", nullptr);
-    const std::size_t step = tally.Quick() ? std::max<std::size_t>(1, scene.calls.size() / 3) : 1;
-    for (std::size_t call = 1 + tally.Seed() % step; call <= scene.calls.size(); call += step)
+    const std::size_t step = IsShort() ? std::max<std::size_t>(1, scene.calls.size() / 3) : 1;
+    for (std::size_t call = 1 + Seed() % step; call <= scene.calls.size(); call += step)
         for (const wchar_t* after : {L"", L"+"}) {
-            const std::string& name = scene.calls[call - 1];
             const std::wstring which = std::to_wstring(call) + after;
-            const std::wstring what = FromUtf8(name) + L" (" + which + L" " + scene.arguments + L"): ";
+            SCOPED_TRACE(scene.calls[call - 1] + Utf8(L" (" + which + L") " + scene.arguments));
             const Journey journey = Run(scene, which);
-            tally.Expect(journey.trouble.empty(), what + journey.Story());
+            EXPECT_EQ(journey.trouble, L"") << Utf8(journey.Story());
             const std::wstring file = scene.suite.Settings() + L"Walked.DCP";
-            tally.Expect(!*scene.arguments || !journey.Passed(L"Finished") || FileBytes(file).size() == 5449,
-                         what + L"the file is not whole");
-            tally.Expect(scene.suite.Setting(L"Kept") == L"yes", what + L"a key was lost");
+            EXPECT_TRUE(!*scene.arguments || !journey.Passed(L"Finished") || FileBytes(file).size() == 5449);
+            EXPECT_EQ(scene.suite.Setting(L"Kept"), L"yes");
         }
 }
 
-} // namespace
-
-void CheckFaults(Tally& tally) {
-    std::set<std::string> kinds, missed;
-    std::size_t points = 0;
+TEST(Soak, faults) {
+    std::set<std::string> called, never;
     for (const wchar_t* mode : {L"", L"/NDW"}) {
         Scene scene(mode);
-        RunAll(tally, scene);
-        points += scene.calls.size();
-        kinds.insert(scene.calls.begin(), scene.calls.end());
-        missed.insert(scene.functions.begin(), scene.functions.end());
+        RunAll(scene);
+        called.insert(scene.calls.begin(), scene.calls.end());
+        never.insert(scene.functions.begin(), scene.functions.end());
     }
     RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, kRunOnce, L"Varnel_DNC_FTSW");
-    std::erase_if(missed, [&](const std::string& name) { return kinds.contains(name); });
-    for (const std::string& name : missed)
-        tally.Expect(false, FromUtf8(name) + L" was never called");
     SetEnvironmentVariableW(L"VWIZARD_FAIL", nullptr);
-    tally.Note(std::to_string(points) + " points of " + std::to_string(kinds.size()) + " functions");
+    std::erase_if(never, [&](const std::string& name) { return called.contains(name); });
+    EXPECT_EQ(never, std::set<std::string>{}) << "these can fail and are not called";
 }
+
+} // namespace

@@ -1,11 +1,8 @@
 // Random clicks on each wizard. A page that comes back shows what it showed when it was left; every page has
 // a focus and one default button; no click ends the program other than properly.
 // A seed gives the same clicks again: ./soak --seed N monkey
-#include "endurance/Scene.h"
 #include "endurance/Soak.h"
-#include "tests/support/DemoSuite.h"
 #include "tools/driver/KnownMessages.h"
-#include "tools/driver/Walker.h"
 
 #include <algorithm>
 #include <deque>
@@ -201,15 +198,10 @@ class Monkey {
     bool isTyped_ = false;                            // what the page shows need not be what it stores
 };
 
-} // namespace
-
-void CheckMonkey(Tally& tally) {
-    const int seeds = tally.Of(10, 1), clicks = tally.Of(5000, 400);
-    for (int i = 0; i < seeds; ++i)
-        for (const wchar_t* arguments : {L"", L"/NDW"}) {
-            const std::uint32_t seed = tally.Seed() + static_cast<std::uint32_t>(i);
-            const std::wstring story = Monkey(seed, arguments).Run(clicks);
-            tally.Expect(story.empty(), L"seed " + std::to_wstring(seed) + L" " + arguments + L": " + story);
-        }
-    tally.Note(std::to_string(seeds) + " seeds x " + std::to_string(clicks) + " clicks on each wizard");
+TEST(Soak, monkey) {
+    for (std::uint32_t seed = Seed(); seed < Seed() + static_cast<std::uint32_t>(Of(10, 1)); ++seed)
+        for (const wchar_t* arguments : {L"", L"/NDW"})
+            EXPECT_EQ(Utf8(Monkey(seed, arguments).Run(Of(5000, 400))), "") << "seed " << seed;
 }
+
+} // namespace

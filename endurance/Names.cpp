@@ -1,11 +1,7 @@
 // Texts that break programs, and names about as long as a path may be, as the name of a configuration: a
 // message or just one regular file of just that name, and nothing anywhere else.
 #include "app/Blanks.h"
-#include "endurance/Scene.h"
 #include "endurance/Soak.h"
-#include "tools/driver/Walker.h"
-
-#include "tests/support/DemoSuite.h"
 
 #include <algorithm>
 #include <iterator>
@@ -34,10 +30,6 @@ constexpr const wchar_t* kTakenNames[] = {L"Mixed Case", L"\x00DC\x00F6\x00DF"};
 
 constexpr std::size_t kLongestPath = 259;
 constexpr std::size_t kFileSize = 5449;
-
-std::wstring Shown(const std::wstring& text) {
-    return L"\"" + text.substr(0, 40) + L"\" (" + std::to_wstring(text.size()) + L")";
-}
 
 // What a name of that text has to become.
 enum class As { File, Refused };
@@ -85,8 +77,8 @@ std::vector<std::wstring> Changes(const std::set<std::wstring>& before, const st
     return changes;
 }
 
-void Try(Tally& tally, const DemoSuite& suite, Walker& walker, const std::wstring& name, As wanted) {
-    const std::wstring shown = Shown(name);
+void Try(const DemoSuite& suite, Walker& walker, const std::wstring& name, As wanted) {
+    SCOPED_TRACE(Utf8(name.substr(0, 40)) + " (" + std::to_string(name.size()) + ")");
     walker.name = name;
     const auto before = Tree(suite.Folder());
     const std::wstring message = walker.CreateConfiguration();
@@ -94,20 +86,18 @@ void Try(Tally& tally, const DemoSuite& suite, Walker& walker, const std::wstrin
     const std::wstring made = changes.empty() ? L"nothing" : changes[0];
     if (walker.Heading() == L"Finished") {
         const std::wstring path = suite.Settings() + TrimBlanks(name) + L".DCP";
-        tally.Expect(wanted == As::File && changes.size() == 1 &&
-                         made == path + L"|" + std::to_wstring(kFileSize),
-                     shown + L" made " + std::to_wstring(changes.size()) + L": " + made);
+        EXPECT_TRUE(wanted == As::File && changes.size() == 1 &&
+                    made == path + L"|" + std::to_wstring(kFileSize))
+            << "made " << changes.size() << ": " << Utf8(made);
         SendNotifyMessageW(walker.Button(L"&New"), BM_CLICK, 0, 0);
-        tally.Expect(walker.Walk().trouble.empty(), shown + L": no way back to the name page");
+        EXPECT_EQ(Utf8(walker.Walk().trouble), "") << "no way back to the name page";
     } else {
-        tally.Expect(changes.empty() && wanted == As::Refused && !message.empty(),
-                     shown + L" was refused with \"" + message + L"\" and made " + made);
+        EXPECT_TRUE(changes.empty() && wanted == As::Refused && !message.empty())
+            << "refused with \"" << Utf8(message) << "\" and made " << Utf8(made);
     }
 }
 
-} // namespace
-
-void CheckNames(Tally& tally) {
+TEST(Soak, names) {
     const DemoSuite suite;
     for (const wchar_t* name : kTakenNames)
         WriteFileBytes(suite.Settings() + name + L".DCP", "taken");
@@ -115,16 +105,17 @@ void CheckNames(Tally& tally) {
     const WizardDriver wizard(suite.CommandLine(L"/NDW"));
     Walker walker(wizard);
     walker.stopAt = L"Configuration Name";
-    tally.Expect(walker.Walk().trouble.empty(), L"the way to the name page");
+    ASSERT_EQ(Utf8(walker.Walk().trouble), "") << "on the way to the name page";
     const auto drive = Tree(L"C:\\");
     const auto names = AllNames(longest);
-    const std::size_t step = tally.Quick() ? 4 : 1;
-    for (std::size_t i = tally.Seed() % step; i < names.size(); i += step)
-        Try(tally, suite, walker, names[i].first, names[i].second);
+    const std::size_t step = IsShort() ? 4 : 1;
+    for (std::size_t i = Seed() % step; i < names.size(); i += step)
+        Try(suite, walker, names[i].first, names[i].second);
     for (const std::wstring& change : Changes(drive, Tree(L"C:\\")))
-        tally.Expect(change.starts_with(suite.Settings()) || change.find(L".log|") != std::wstring::npos,
-                     L"changed elsewhere: " + change);
+        EXPECT_TRUE(change.starts_with(suite.Settings()) || change.find(L".log|") != std::wstring::npos)
+            << "changed elsewhere: " << Utf8(change);
     // Ports of the prefix lead to a plain file: whoever opens them for writing leaves a trace.
-    tally.Expect(FileBytes(FromEnvironment(L"SOAK_DEVICE")) == "untouched\n", L"a port was written to");
-    tally.Note(std::to_string(names.size()) + " names");
+    EXPECT_EQ(FileBytes(PathFrom("SOAK_DEVICE")), "untouched\n") << "a port was written to";
 }
+
+} // namespace

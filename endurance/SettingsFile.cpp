@@ -1,10 +1,7 @@
 // Settings files through a whole run of both wizards, large ones and on full disks: every key of others reads
 // as before, every comment line stands, and what cannot be written is told. A file that may not be written is
 // a row of the unit tests and a walk.
-#include "endurance/Scene.h"
 #include "endurance/Soak.h"
-#include "tests/support/DemoSuite.h"
-#include "tools/driver/Walker.h"
 
 #include <atomic>
 #include <sstream>
@@ -16,7 +13,7 @@ enum class Ends { Finished, Denied, Told };
 enum class Disk { Large, Full, FillsUp };
 
 struct Row {
-    const wchar_t* what;
+    const char* what;
     Ends ends;
     Disk disk;
     bool large;
@@ -24,10 +21,10 @@ struct Row {
 
 // clang-format off
 constexpr Row kRows[] = {
-    {L"usual",              Ends::Finished, Disk::Large,   false},
-    {L"many keys",          Ends::Finished, Disk::Large,   true},
-    {L"full disk",          Ends::Denied,   Disk::Full,    false},
-    {L"disk that fills up", Ends::Told,     Disk::FillsUp, false},
+    {"usual",              Ends::Finished, Disk::Large,   false},
+    {"many keys",          Ends::Finished, Disk::Large,   true},
+    {"full disk",          Ends::Denied,   Disk::Full,    false},
+    {"disk that fills up", Ends::Told,     Disk::FillsUp, false},
 };
 // clang-format on
 
@@ -76,40 +73,43 @@ Ends EndOf(const Journey& journey) {
     return told ? Ends::Told : Ends::Finished;
 }
 
-void Run(Tally& tally, const DemoSuite& suite, const Row& row, const std::wstring& settings,
-         const wchar_t* arguments) {
+void Run(const DemoSuite& suite, const Row& row, const std::wstring& settings, const wchar_t* arguments) {
     if (row.disk == Disk::FillsUp) DeleteFileW((settings + L"filler").c_str());
     const WizardDriver wizard(suite.CommandLine(arguments), WizardDriver::Wait::No);
     Walker walker(wizard);
     if (row.disk == Disk::FillsUp)
         walker.onPage = [&](const std::wstring&) { FillUpWith(settings, settings + suite::kIniFile); };
     const Journey journey = walker.Walk();
-    tally.Expect(journey.trouble.empty() && EndOf(journey) == row.ends &&
-                     (row.ends != Ends::Finished || journey.Passed(L"Finished")),
-                 std::wstring(row.what) + L" " + arguments + L": " + journey.Story());
+    EXPECT_TRUE(journey.trouble.empty() && EndOf(journey) == row.ends &&
+                (row.ends != Ends::Finished || journey.Passed(L"Finished")))
+        << Utf8(arguments + journey.Story());
 }
 
-void Try(Tally& tally, const Row& row) {
+void Try(const Row& row) {
+    SCOPED_TRACE(row.what);
     const DemoSuite suite;
-    const std::wstring settings =
-        row.disk == Disk::Large ? suite.Settings() : FromEnvironment(L"SOAK_SMALL_DISK");
-    if (settings.empty()) return tally.Skip(std::wstring(row.what) + L": needs root to mount a small disk");
+    const std::wstring settings = row.disk == Disk::Large ? suite.Settings() : PathFrom("SOAK_SMALL_DISK");
+    if (settings.empty()) GTEST_SKIP() << row.what << " needs root, to mount a small disk";
     const std::wstring file = settings + suite::kIniFile;
-    const std::string content = Content(row.large ? tally.Of(100000, 1000) : 0);
+    const std::string content = Content(row.large ? Of(100000, 1000) : 0);
     for (const std::wstring& old : FileNames(settings))
         DeleteFileW((settings + old).c_str());
     SetRegText(HKEY_CURRENT_USER, L"SOFTWARE\\Varnel\\Varnel DNC\\Paths", L"SettingsPath", settings);
     WriteFileBytes(file, content);
     if (row.disk == Disk::Full) FillUp(settings);
     for (const wchar_t* arguments : {L"", L"/NDW"})
-        Run(tally, suite, row, settings, arguments);
-    const std::string lost = Lost(content, FileBytes(file));
-    tally.Expect(lost.empty(), row.what + (L": lost " + FromUtf8(lost)));
+        Run(suite, row, settings, arguments);
+    EXPECT_EQ(Lost(content, FileBytes(file)), "");
+}
+
+TEST(Soak, ini) {
+    for (const Row& row : kRows)
+        Try(row);
 }
 
 // Another program of the suite writes a key every 20 ms: every start succeeds, and none of its writes is
 // refused. That two writers never lose a key of each other is more than the profile calls promise.
-void TryOtherWriters(Tally& tally, int starts) {
+TEST(Soak, writers) {
     const DemoSuite suite;
     const std::string file = Utf8(suite.Settings() + suite::kIniFile);
     WriteFileBytes(suite.Settings() + suite::kIniFile, Content(0));
@@ -118,25 +118,18 @@ void TryOtherWriters(Tally& tally, int starts) {
         for (int i = 0; !over.stop_requested(); ++i, Sleep(20))
             refused += !WritePrivateProfileStringA("Third", "Count", std::to_string(i).c_str(), file.c_str());
     });
-    for (int i = 0; i < starts; ++i) {
+    for (int i = 0; i < Of(80, 8); ++i) {
         const WizardDriver wizard(suite.CommandLine(i % 2 ? L"/NDW" : L""), WizardDriver::Wait::No);
         Walker walker(wizard);
         walker.stopAt = i % 2 ? L"New CNC Configuration" : L"Welcome";
         const Journey journey = walker.Walk();
-        tally.Expect(journey.trouble.empty() && wizard.IsRunning() && walker.Heading() == walker.stopAt,
-                     L"beside another writer: " + journey.Story());
+        EXPECT_TRUE(journey.trouble.empty() && wizard.IsRunning() && walker.Heading() == walker.stopAt)
+            << Utf8(journey.Story());
         if (wizard.IsRunning()) walker.Close();
     }
     writer.request_stop();
     writer.join();
-    tally.Expect(refused == 0, std::to_wstring(refused) + L" writes of the other program were refused");
+    EXPECT_EQ(refused, 0) << "writes of the other program";
 }
 
 } // namespace
-
-void CheckSettingsFile(Tally& tally) {
-    for (const Row& row : kRows)
-        Try(tally, row);
-    TryOtherWriters(tally, tally.Of(80, 8));
-    tally.Note(std::to_string(std::size(kRows)) + " settings files through both wizards, another writer");
-}

@@ -1,44 +1,36 @@
 #pragma once
 
-// The checks of endurance and what they have in common. Each counts what it tried, tells of every failure
-// in one line, and can do a part of its work for the quick run.
+// What the checks of ./soak share. Each is a test of its own; ./soak names them without "Soak.".
+
+#include "tests/support/DemoSuite.h"
+#include "tools/driver/Walker.h"
+
+#include <gtest/gtest.h>
 
 #include <cstdint>
-#include <random>
+#include <cstdlib>
+#include <initializer_list>
 #include <string>
-#include <string_view>
 
-class Tally {
-  public:
-    Tally(bool quick, std::uint32_t seed) : quick_(quick), seed_(seed) {}
+// Of ./soak --short, which does a part of each check.
+inline bool IsShort() { return std::getenv("SOAK_SHORT") != nullptr; }
+inline int Of(int full, int few) { return IsShort() ? few : full; }
 
-    // How many to do of `full`, which take part in the quick run only as `few`.
-    int Of(int full, int few) const { return quick_ ? few : full; }
-    bool Quick() const { return quick_; }
-    std::uint32_t Seed() const { return seed_; }
+// Of ./soak --seed N.
+inline std::uint32_t Seed() {
+    const char* seed = std::getenv("SOAK_SEED");
+    return seed ? static_cast<std::uint32_t>(std::strtoul(seed, nullptr, 10)) : 1;
+}
 
-    // Counts one attempt; a failure is printed with `what`.
-    bool Expect(bool holds, const std::wstring& what);
-    // Prints what could not be tried here and why.
-    void Skip(const std::wstring& what);
-    // A figure for the table.
-    void Note(const std::string& text) { notes_ += (notes_.empty() ? "" : ", ") + text; }
+// A path that ./soak hands over, "" for none.
+inline std::wstring PathFrom(const char* variable) {
+    const char* path = std::getenv(variable);
+    return path ? FromUtf8(path) : L"";
+}
 
-    int Count() const { return count_; }
-    int Failures() const { return failures_; }
-    const std::string& Notes() const { return notes_; }
-
-  private:
-    bool quick_;
-    std::uint32_t seed_;
-    int count_ = 0;
-    int failures_ = 0;
-    std::string notes_;
-};
-
-void CheckNames(Tally& tally);
-void CheckFaults(Tally& tally);
-void CheckSettingsFile(Tally& tally);
-void CheckWindows(Tally& tally);
-void CheckTwoCopies(Tally& tally);
-void CheckMonkey(Tally& tally);
+// Sample configurations of these names.
+inline void AddSamples(const DemoSuite& suite, std::initializer_list<const wchar_t*> names) {
+    CreateDirectoryW((suite.Folder() + L"Samples").c_str(), nullptr);
+    for (const wchar_t* name : names)
+        WriteFileBytes(suite.Folder() + L"Samples\\" + name + L".dcp", "sample");
+}

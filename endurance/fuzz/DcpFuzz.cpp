@@ -6,13 +6,40 @@ namespace {
 
 unsigned char LowByte(wchar_t c) { return static_cast<unsigned char>(c); }
 
+// Answers that the pages can give; the texts are ASCII.
+NdwAnswers ValidAnswers(FuzzedDataProvider& from) {
+    const auto index = [&](std::size_t count) { return static_cast<std::int16_t>(Below(from, count)); };
+    const auto ascii = [&] {
+        std::wstring text = Text(from, kCodesLength, L"ABCxyz019 (%$-+.");
+        std::erase_if(text, [](wchar_t c) { return c < L' ' || c > L'~'; });
+        return text;
+    };
+    NdwAnswers answers;
+    answers.portIndex = index(kPortCount);
+    answers.baudIndex = index(kBaudRates.size());
+    answers.dataFormatIndex = index(kDataFormats.size());
+    answers.characterFormatIndex = index(kCharacterFormats.size());
+    answers.flowControlIndex = index(kFlowControls.size());
+    answers.endOfBlockIndex = index(kEndOfBlocks.size());
+    answers.prefixChoice = index(std::size_t{1} << kPrefixChoices.size());
+    answers.suffixChoice = index(std::size_t{1} << kSuffixChoices.size());
+    answers.filterOptions = index(std::size_t{1} << kFilterOptions.size());
+    answers.transmitTriggerIndex = index(kTransmitTriggers.size());
+    answers.receiveNamingIndex = index(kReceiveNamings.size());
+    answers.receiveTerminationIndex = index(kReceiveTerminations.size());
+    answers.removedLines = ascii();
+    answers.receivePrefix = ascii();
+    answers.receiveExtension = from.PickValueInArray({L"", L"NC", L"MIN", L"x"});
+    return answers;
+}
+
 // Answers become bytes, and the bytes records that become the same bytes.
-std::array<unsigned char, kDcpFileSize> ExamineAnswers(Generator& from) {
+std::array<unsigned char, kDcpFileSize> ExamineAnswers(FuzzedDataProvider& from) {
     DcpRecords records;
     SetDcpHeaderDefaults(records.header);
     SetDcpRecord4Defaults(records.record4);
     const NdwAnswers answers = ValidAnswers(from);
-    FillDcpRecords(records, answers, from.Text(70, L"Lathe 12"));
+    FillDcpRecords(records, answers, Text(from, 70, L"Lathe 12"));
     PrepareForWriting(records);
     const auto bytes = DcpBytes(records, LowByte);
 
@@ -28,11 +55,10 @@ std::array<unsigned char, kDcpFileSize> ExamineAnswers(Generator& from) {
 }
 
 // A damaged file is refused with nothing changed, or read as it is.
-void ExamineDamage(Generator& from, std::vector<unsigned char> bytes) {
-    bytes.resize(from.Below(4) == 0 ? from.Below(6000) : bytes.size());
-    for (std::size_t count = from.Below(20); count > 0 && !bytes.empty(); --count) {
-        bytes[from.Below(bytes.size())] = from.Byte();
-    }
+void ExamineDamage(FuzzedDataProvider& from, std::vector<unsigned char> bytes) {
+    bytes.resize(Below(from, 4) == 0 ? Below(from, 6000) : bytes.size());
+    for (std::size_t count = Below(from, 20); count > 0 && !bytes.empty(); --count)
+        bytes[Below(from, bytes.size())] = from.ConsumeIntegral<unsigned char>();
     DcpRecords records;
     records.header.portNumber = 99;
     const auto port = DcpPortNumber(bytes);
@@ -47,7 +73,7 @@ void ExamineDamage(Generator& from, std::vector<unsigned char> bytes) {
 
 } // namespace
 
-void Examine(Generator& from) {
+void Examine(FuzzedDataProvider& from) {
     const auto bytes = ExamineAnswers(from);
     ExamineDamage(from, {bytes.begin(), bytes.end()});
 }
