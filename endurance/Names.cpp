@@ -4,6 +4,7 @@
 #include "endurance/Soak.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <iterator>
 #include <set>
 
@@ -47,23 +48,12 @@ Names AllNames(std::size_t longest) {
     return names;
 }
 
-// Every file (with its size) and folder below `folder`, which ends in a backslash.
-void AddTree(const std::wstring& folder, std::set<std::wstring>& tree) {
-    WIN32_FIND_DATAW found{};
-    const win::UniqueFind search(FindFirstFileW((folder + L"*").c_str(), &found));
-    if (search.Get() == INVALID_HANDLE_VALUE) return;
-    do {
-        const std::wstring name = found.cFileName;
-        if (name == L"." || name == L"..") continue;
-        const bool isFolder = (found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-        tree.insert(folder + name + (isFolder ? L"\\" : L"|" + std::to_wstring(found.nFileSizeLow)));
-        if (isFolder) AddTree(folder + name + L"\\", tree);
-    } while (FindNextFileW(search.Get(), &found));
-}
-
+// Every file (with its size) and folder below `folder`.
 std::set<std::wstring> Tree(const std::wstring& folder) {
     std::set<std::wstring> tree;
-    AddTree(folder, tree);
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder))
+        tree.insert(entry.path().wstring() +
+                    (entry.is_directory() ? L"\\" : L"|" + std::to_wstring(entry.file_size())));
     return tree;
 }
 

@@ -29,7 +29,7 @@ using Text = std::wstring;
 struct Walk {
     DemoSuite suite;
     std::optional<WizardDriver> wizard;
-    win::UniqueKernelHandle lock;
+    win::UniqueFile lock;
     bool isOpened = false;            // a link, which shows its program as it wants
     std::map<Text, std::size_t> seen; // starts of a program that the walk has spoken of
 
@@ -88,11 +88,8 @@ void Move(const Walk& walk, const wchar_t* button, const Text& heading) {
 
 Text Items(HWND list) {
     Text items;
-    for (std::size_t i = 0; i < Ask(list, LB_GETCOUNT); ++i) {
-        Text item(Ask(list, LB_GETTEXTLEN, i) + 1, L'\0');
-        item.resize(Ask(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(item.data())));
-        items += (i ? L" | " : L"") + item;
-    }
+    for (const Text& item : ItemsOf(list))
+        items += (items.empty() ? L"" : L" | ") + item;
     return items;
 }
 

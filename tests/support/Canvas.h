@@ -4,13 +4,11 @@
 
 #include <windows.h>
 
-// A square of 320 pixels, filled with one colour, that pictures are drawn on.
+// A square of 320 pixels, filled with one color, that pictures are drawn on.
 class Canvas {
   public:
     explicit Canvas(COLORREF ground) : dc_(CreateCompatibleDC(nullptr)) {
-        const HDC screen = GetDC(nullptr);
-        bitmap_ = win::UniqueBitmap(CreateCompatibleBitmap(screen, 320, 320));
-        ReleaseDC(nullptr, screen);
+        bitmap_ = win::UniqueBitmap(CreateCompatibleBitmap(win::WindowDc(nullptr).Get(), 320, 320));
         SelectObject(dc_.Get(), bitmap_.Get());
         const win::UniqueBrush brush(CreateSolidBrush(ground));
         const RECT all = {0, 0, 320, 320};

@@ -4,8 +4,15 @@
 #include "app/Settings.h"
 #include "tools/driver/Windows.h"
 
+#include <shlwapi.h>
+
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <thread>
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -34,52 +41,36 @@ HWND ButtonOf(HWND box, int wanted) {
     return nullptr;
 }
 
-// A file or a folder with all in it; read-only files too, which the shell leaves.
+// A file or a folder with all in it; read-only files too, which the system leaves.
 void Remove(const std::wstring& path) {
+    std::error_code none;
     SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
-    if (DeleteFileW(path.c_str())) return;
-    for (const std::wstring& name : FileNames(path + L"\\"))
-        Remove(path + L"\\" + name);
-    RemoveDirectoryW(path.c_str());
-}
-
-win::UniqueKernelHandle Open(const std::wstring& path, DWORD access, DWORD share = 0,
-                             DWORD how = OPEN_EXISTING) {
-    const HANDLE file =
-        CreateFileW(path.c_str(), access, share, nullptr, how, FILE_ATTRIBUTE_NORMAL, nullptr);
-    return win::UniqueKernelHandle(file == INVALID_HANDLE_VALUE ? nullptr : file);
+    for (const auto& entry : fs::recursive_directory_iterator(path, none))
+        SetFileAttributesW(entry.path().c_str(), FILE_ATTRIBUTE_NORMAL);
+    fs::remove_all(path, none);
 }
 
 } // namespace
 
 std::vector<std::wstring> FileNames(const std::wstring& folder, const wchar_t* pattern) {
     std::vector<std::wstring> names;
-    WIN32_FIND_DATAW data{};
-    const win::UniqueFind search(FindFirstFileW((folder + pattern).c_str(), &data));
-    if (search.Get() == INVALID_HANDLE_VALUE) return names;
-    do
-        if (const std::wstring name = data.cFileName; name != L"." && name != L"..") names.push_back(name);
-    while (FindNextFileW(search.Get(), &data));
+    std::error_code none;
+    for (const auto& entry : fs::directory_iterator(folder, none))
+        if (const auto name = entry.path().filename(); PathMatchSpecW(name.c_str(), pattern))
+            names.push_back(name);
     std::sort(names.begin(), names.end());
     return names;
 }
 
 std::string FileBytes(const std::wstring& path) {
-    const auto file = Open(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE);
+    std::ifstream file(fs::path(path), std::ios::binary);
     if (!file) Fail(L"cannot read " + path);
-    std::string bytes(GetFileSize(file.Get(), nullptr), '\0');
-    DWORD read = 0;
-    if (!ReadFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &read, nullptr) ||
-        read != bytes.size())
-        Fail(L"cannot read all of " + path);
-    return bytes;
+    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 void WriteFileBytes(const std::wstring& path, std::string_view bytes) {
-    const auto file = Open(path, GENERIC_WRITE, 0, CREATE_ALWAYS);
-    DWORD written = 0;
-    if (file) WriteFile(file.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
-    if (!file || written != bytes.size()) Fail(L"cannot write " + path);
+    if (!(std::ofstream(fs::path(path), std::ios::binary) << bytes << std::flush))
+        Fail(L"cannot write " + path);
 }
 
 void Copy(const std::wstring& from, const std::wstring& to) {
@@ -99,12 +90,10 @@ void SetRegText(HKEY root, const std::wstring& key, const wchar_t* value, const 
 }
 
 ScratchFolder::ScratchFolder() {
-    std::wstring temp(MAX_PATH, L'\0');
-    temp.resize(GetTempPathW(MAX_PATH, temp.data()));
-    const std::wstring folder = temp + UniqueName();
+    const fs::path folder = fs::temp_directory_path() / UniqueName();
     Remove(folder); // left by a run that broke off
-    path_ = folder + L"\\";
-    if (!CreateDirectoryW(path_.c_str(), nullptr)) Fail(L"no scratch folder");
+    if (!fs::create_directory(folder)) Fail(L"no scratch folder");
+    path_ = folder.wstring() + L"\\";
 }
 
 ScratchFolder::~ScratchFolder() { Remove(path_.substr(0, path_.size() - 1)); }
@@ -141,19 +130,14 @@ void ScratchKey::Set(const std::wstring& name, DWORD type, std::wstring_view tex
                    static_cast<DWORD>(text.size() * sizeof text[0]));
 }
 
-win::UniqueKernelHandle Spoil(const std::wstring& path, Spoilt how) {
+win::UniqueFile Spoil(const std::wstring& path, Spoilt how) {
     if (how == Spoilt::Missing || how == Spoilt::Folder || how == Spoilt::File) Remove(path);
     const bool wantsFile = how == Spoilt::File || how == Spoilt::ReadOnly || how == Spoilt::Locked;
     if (wantsFile && !FileExists(path)) WriteFileBytes(path, "something longer than the probe file");
     if (how == Spoilt::Folder) CreateDirectoryW(path.c_str(), nullptr);
     if (how == Spoilt::ReadOnly) SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY);
-    return how == Spoilt::Locked ? Open(path, GENERIC_READ) : win::UniqueKernelHandle();
-}
-
-bool ReadOnlyStops() {
-    const ScratchFolder folder;
-    Spoil(folder.Path() + L"a", Spoilt::ReadOnly);
-    return !Open(folder.Path() + L"a", GENERIC_WRITE);
+    if (how != Spoilt::Locked) return {};
+    return win::UniqueFile(CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
 }
 
 std::vector<std::wstring> Answering(std::initializer_list<int> buttons, const std::function<void()>& act) {

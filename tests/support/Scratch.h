@@ -74,9 +74,7 @@ class ScratchKey {
 enum class Spoilt { Not, Missing, File, Folder, ReadOnly, Locked };
 
 // Brings `path` into this state; locked only as long as the result lives.
-win::UniqueKernelHandle Spoil(const std::wstring& path, Spoilt how);
-// Whether the read-only attribute stops this user's writes: not root's, for one.
-bool ReadOnlyStops();
+win::UniqueFile Spoil(const std::wstring& path, Spoilt how);
 
 // Runs `act` while another thread presses `buttons` (IDOK, IDYES ...), one in each box that this process
 // opens, in this order, and returns the boxes seen: title, line end, text. One box too many is closed, too.

@@ -97,12 +97,11 @@ TEST(Control, LeavesItsOldPlaceToBePainted) {
 
 TEST(Control, StandsOnTheGroundOfItsForm) {
     TestForm form;
-    const HDC dc = GetDC(form.Hwnd());
+    const win::WindowDc dc(form.Hwnd());
     for (const UINT message : {WM_CTLCOLORBTN, WM_CTLCOLORSTATIC})
-        EXPECT_EQ(SendMessageW(form.Hwnd(), message, reinterpret_cast<WPARAM>(dc),
+        EXPECT_EQ(SendMessageW(form.Hwnd(), message, reinterpret_cast<WPARAM>(dc.Get()),
                                reinterpret_cast<LPARAM>(form.button->Handle())),
                   reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_WINDOW)));
-    ReleaseDC(form.Hwnd(), dc);
 }
 
 std::wstring loadedPath;

@@ -37,23 +37,18 @@ std::string Name(HWND control) {
 // Of `text` in the control's font, lines broken at `width`; "&" marks access keys where `marks` says so.
 // A rich-text control does not tell its font.
 SIZE Extent(HWND control, const std::wstring& text, bool marks, int width = 10000) {
-    const HDC dc = GetDC(control);
+    const win::WindowDc dc(control);
     const auto font = reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0));
-    const HGDIOBJ old = SelectObject(dc, font ? font : win::FontFor(win::FontUse::Body));
+    const win::SelectedObject selected(dc.Get(), font ? font : win::FontFor(win::FontUse::Body));
     RECT area{0, 0, width, 0};
-    DrawTextW(dc, text.c_str(), -1, &area, DT_CALCRECT | DT_WORDBREAK | (marks ? 0u : DT_NOPREFIX));
-    SelectObject(dc, old);
-    ReleaseDC(control, dc);
+    DrawTextW(dc.Get(), text.c_str(), -1, &area, DT_CALCRECT | DT_WORDBREAK | (marks ? 0u : DT_NOPREFIX));
     return {area.right, area.bottom};
 }
 
-int WidestItem(HWND control, UINT count, UINT length, UINT get) {
-    int widest = 0;
-    for (WPARAM i = 0; i < static_cast<WPARAM>(SendMessageW(control, count, 0, 0)); ++i) {
-        std::wstring item(static_cast<std::size_t>(SendMessageW(control, length, i, 0)) + 1, L'\0');
-        SendMessageW(control, get, i, reinterpret_cast<LPARAM>(item.data()));
-        widest = std::max(widest, static_cast<int>(Extent(control, item.c_str(), false).cx));
-    }
+LONG WidestItem(HWND control) {
+    LONG widest = 0;
+    for (const std::wstring& item : ItemsOf(control))
+        widest = std::max(widest, Extent(control, item, false).cx);
     return widest;
 }
 
@@ -73,9 +68,8 @@ SIZE TextNeeds(HWND control, const RECT& client) {
     const int edge = 2 * GetSystemMetrics(SM_CXEDGE);
     const int bar = GetSystemMetrics(SM_CXVSCROLL) + edge;
     if (kind == L"Button") return ButtonNeeds(control);
-    if (kind == L"ListBox") return {WidestItem(control, LB_GETCOUNT, LB_GETTEXTLEN, LB_GETTEXT) + bar, 0};
-    if (kind == L"ComboBox")
-        return {WidestItem(control, CB_GETCOUNT, CB_GETLBTEXTLEN, CB_GETLBTEXT) + bar + edge, 0};
+    if (kind == L"ListBox") return {WidestItem(control) + bar, 0};
+    if (kind == L"ComboBox") return {WidestItem(control) + bar + edge, 0};
     if (kind == L"Edit") return {0, Extent(control, L"Xg", false).cy};
     if (kind == win::RichText::kClassName) {
         POINTL place{}; // of the end

@@ -215,16 +215,6 @@ TEST(PageChoose, KeepingIsOfferedToWhoHasSomethingToKeep) {
 
 // ---- from page to page ----
 
-std::wstring ItemsOf(HWND list, UINT count, UINT length, UINT get) {
-    std::wstring items;
-    for (WPARAM i = 0; i < static_cast<WPARAM>(SendMessageW(list, count, 0, 0)); ++i) {
-        std::wstring item(static_cast<std::size_t>(SendMessageW(list, length, i, 0)) + 1, L'\0');
-        SendMessageW(list, get, i, reinterpret_cast<LPARAM>(item.data()));
-        items += item.c_str() + std::wstring(L"|");
-    }
-    return items;
-}
-
 std::wstring StateOf(HWND control) {
     const std::wstring kind = ClassOf(control);
     RECT place{};
@@ -235,10 +225,9 @@ std::wstring StateOf(HWND control) {
         state += L" " + std::to_wstring(number);
     if (kind == L"Button") state += L" " + std::to_wstring(SendMessageW(control, BM_GETCHECK, 0, 0));
     if (kind == L"Edit") state += L" " + std::to_wstring(SendMessageW(control, EM_GETLIMITTEXT, 0, 0));
-    if (kind == L"ListBox")
-        state += ItemsOf(control, LB_GETCOUNT, LB_GETTEXTLEN, LB_GETTEXT) +
-                 std::to_wstring(SendMessageW(control, LB_GETCURSEL, 0, 0));
-    if (kind == L"ComboBox") state += ItemsOf(control, CB_GETCOUNT, CB_GETLBTEXTLEN, CB_GETLBTEXT);
+    if (kind == L"ListBox") state += L" " + std::to_wstring(SendMessageW(control, LB_GETCURSEL, 0, 0));
+    for (const std::wstring& item : ItemsOf(control))
+        state += L"|" + item;
     return state + L"\n";
 }
 

@@ -56,6 +56,17 @@ std::wstring TextOf(HWND window) {
     return text;
 }
 
+std::vector<std::wstring> ItemsOf(HWND list) {
+    const bool isCombo = ClassOf(list) == L"ComboBox";
+    std::vector<std::wstring> items(Ask(list, isCombo ? CB_GETCOUNT : LB_GETCOUNT));
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        items[i].resize(Ask(list, isCombo ? CB_GETLBTEXTLEN : LB_GETTEXTLEN, i) + 1);
+        items[i].resize(
+            Ask(list, isCombo ? CB_GETLBTEXT : LB_GETTEXT, i, reinterpret_cast<LPARAM>(items[i].data())));
+    }
+    return items;
+}
+
 DWORD_PTR Ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     DWORD_PTR result = 0;
     if (!SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, kAnswerTime_ms, &result) &&

@@ -19,4 +19,5 @@ std::wstring Contents(HWND window);
 
 std::wstring ClassOf(HWND window);
 std::wstring TextOf(HWND window);
+std::vector<std::wstring> ItemsOf(HWND list);                                   // of a list or combo box
 DWORD_PTR Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0); // as SendMessage
