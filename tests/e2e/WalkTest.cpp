@@ -30,7 +30,6 @@ struct Walk {
     DemoSuite suite;
     std::optional<WizardDriver> wizard;
     win::UniqueFile lock;
-    bool isOpened = false;            // a link, which shows its program as it wants
     std::map<Text, std::size_t> seen; // starts of a program that the walk has spoken of
 
     const WizardDriver& On() const { return *wizard; }
@@ -117,8 +116,7 @@ void ExpectStart(Walk& walk, const Text& program, const Text& commandLine) {
     const Start start = walk.suite.WaitForStarts(program, ++walk.seen[program]).at(walk.seen[program] - 1);
     Expect(start.commandLine, commandLine);
     Expect(start.folder + L"\\", walk.suite.Folder());
-    EXPECT_TRUE(walk.isOpened || start.show == SW_SHOWNORMAL) << start.show;
-    walk.isOpened = false;
+    EXPECT_EQ(start.show, SW_SHOWNORMAL);
 }
 
 constexpr std::size_t kShowCommandAt = 0x3C; // of a shell link's file
@@ -150,28 +148,6 @@ void LoadWithin(const Walk& walk, const Text& library) {
     EXPECT_EQ(WaitForSingleObject(thread.Get(), INFINITE), WAIT_OBJECT_0);
 }
 
-// Links are opened as by a double click, so that the system says where they lead.
-void Open(Walk& walk, const Text& link) {
-    walk.isOpened = true;
-    SHELLEXECUTEINFOW info{};
-    info.cbSize = sizeof info;
-    info.fMask = SEE_MASK_FLAG_NO_UI;
-    info.lpFile = link.c_str();
-    info.nShow = SW_SHOWNORMAL;
-    EXPECT_TRUE(ShellExecuteExW(&info));
-}
-
-// The shell's own dialog opens on C:\ and unfolds the tree down to it.
-void WaitForTree(const Walk& walk) {
-    const HWND tree = walk.On().Input(L"SysTreeView32", L"");
-    LRESULT selected = 0;
-    const auto isStill = [&] {
-        Sleep(200);
-        return std::exchange(selected, SendMessageW(tree, TVM_GETNEXTITEM, TVGN_CARET, 0)) == selected;
-    };
-    walk.On().Until([&] { return isStill() && selected; }, L"a folder selected in the tree");
-}
-
 void ExpectCorner(const Walk& walk) {
     RECT place{};
     GetWindowRect(walk.On().Window(), &place);
@@ -183,19 +159,6 @@ void StartAgain(Walk& walk, const Text& arguments) {
     EXPECT_EQ(WizardDriver(walk.suite.CommandLine(arguments), WizardDriver::Wait::No).WaitForExit(), 0);
     const HWND first = walk.On().Window();
     walk.On().Until([&] { return !IsIconic(first) && GetForegroundWindow() == first; }, L"the first copy");
-}
-
-void ExpectRefusal(const Walk& walk, const Text& name, const Text& words) {
-    const HWND box = walk.On().Input(L"Edit", L"Configuration &name");
-    const Text before = Names(walk.suite.Settings() + L"*");
-    Ask(box, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(name.c_str()));
-    walk.On().Press(L"&Create");
-    const Text text = walk.On().AnswerBox(IDOK);
-    Expect(text.substr(0, 25 + words.size()), L"Varnel DNC Setup Wizard\r\n" + words);
-    walk.On().WaitForPage(L"Configuration Name");
-    EXPECT_EQ(walk.On().Focus(), box);
-    Expect(TextOf(box), name);
-    Expect(Names(walk.suite.Settings() + L"*"), before);
 }
 
 // "1 17 0": of that wizard, on that page, the link of that index. A form of this process follows it, the
@@ -267,13 +230,10 @@ const Verb kVerbs[] = {
     {L"click",     [](Walk& w, const Text& a, const Text&) { Click(w.On().Button(a)); }},
     {L"double",    [](Walk& w, const Text& a, const Text&) { Click(w.On().Button(a)), Click(w.On().Button(a), 9, WM_LBUTTONDBLCLK); }},
     {L"scroll",    [](Walk& w, const Text&, const Text&) { Click(w.On().Input(L"ScrollBar", L""), -4); }},
-    {L"tree",      [](Walk& w, const Text&, const Text&) { WaitForTree(w); }},
-    {L"open",      [](Walk& w, const Text& a, const Text&) { Open(w, a); }},
     {L"close",     [](Walk& w, const Text&, const Text&) { PostMessageW(w.On().Window(), WM_CLOSE, 0, 0); }},
     {L"load",      [](Walk& w, const Text& a, const Text&) { LoadWithin(w, a); }},
     {L"log",       [](Walk& w, const Text&, const Text&) { LogOff(w); }},
     {L"exit",      [](Walk& w, const Text& a, const Text&) { Expect(std::to_wstring(w.On().WaitForExit()), a.empty() ? L"0" : a); }},
-    {L"refused",   [](Walk& w, const Text& a, const Text& b) { ExpectRefusal(w, a, b); }},
     // what the page shows
     {L"page",      [](Walk& w, const Text& a, const Text&) { w.On().WaitForPage(a); }},
     {L"says",      [](Walk& w, const Text& a, const Text&) { EXPECT_NE(w.On().PageText().find(a), Text::npos) << Utf8(w.On().PageText()); }},
@@ -317,14 +277,6 @@ Text Walk::Replaced(Text text) const {
         {L"{desktop}", Folder(CSIDL_DESKTOPDIRECTORY)},
         {L"{start}", Folder(CSIDL_STARTMENU)},
         {L"{quick}", Folder(CSIDL_APPDATA) + L"Microsoft\\Internet Explorer\\Quick Launch\\"},
-        {L"{300 folders}",
-         [] {
-             Text list;
-             for (int i = 0; i < 300; ++i)
-                 list += L"D:\\Cnc " + std::to_wstring(i) + L";";
-             return list + L"E:";
-         }()},
-        {L"{tab}", L"\t"},
         {L"{n}", L"\r\n"}};
     for (const auto& [word, meaning] : kWords)
         for (auto at = text.find(word); at != Text::npos; at = text.find(word, at + meaning.size()))

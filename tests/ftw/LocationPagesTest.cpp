@@ -21,7 +21,12 @@ BOOL WINAPI CountFlushes(LPCSTR section, LPCSTR key, LPCSTR value, LPCSTR file) 
 }
 
 UINT browseFlags = 0;
-LPITEMIDLIST WINAPI Browse(LPBROWSEINFOW what) { return browseFlags = what->ulFlags, nullptr; }
+LPITEMIDLIST WINAPI ChooseDrive(LPBROWSEINFOW what) {
+    LPITEMIDLIST drive = nullptr;
+    browseFlags = what->ulFlags;
+    SHParseDisplayName(L"C:\\", nullptr, &drive, 0, nullptr);
+    return drive;
+}
 
 TEST(LocationPages, WhatIsStored) {
     const std::wstring most = L"D:\\" + std::wstring(247, L'x'), tooLong = L"The file location is too long";
@@ -73,9 +78,10 @@ TEST(LocationPages, WhatIsStored) {
         EXPECT_EQ(form.pool.lblHyperlink[1].Visible(), *documents != 0) << "the default folder lies in them";
     }
     EXPECT_EQ(flushes, std::size(rows));
-    const ReplacedImport browse("SHBrowseForFolderW", reinterpret_cast<void*>(&Browse));
+    const ReplacedImport browse("SHBrowseForFolderW", reinterpret_cast<void*>(&ChooseDrive));
     FtwHyperlink(form, 0);
     EXPECT_EQ(browseFlags, BIF_RETURNONLYFSDIRS | BIF_NEWDIALOGSTYLE | BIF_BROWSEINCLUDEFILES);
+    EXPECT_EQ(form.pool.txtUserInput[0].Text(), L"C:\\");
 }
 
 } // namespace

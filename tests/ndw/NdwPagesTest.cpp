@@ -60,9 +60,10 @@ TEST_F(NdwPagesTest, ThePortsUseFollowsTheSelection) {
 
 TEST_F(NdwPagesTest, NamesThatMayBeTakenAndTriedAgain) {
     const std::size_t longest = 259 - suite.Path().size() - 4;
-    const std::wstring taken = L"The configuration name you specified is already used.",
-                       tooLong = L"The name you specified is too long.\r\nIt may have up to " +
-                                 std::to_wstring(longest) + L" characters.";
+    const std::wstring again = L"\r\n\r\nTry a different name.", it = L"The name you specified ",
+                       taken = L"The configuration name you specified is already used." + again,
+                       tooLong = it + L"is too long.\r\nIt may have up to " + std::to_wstring(longest) +
+                                 L" characters.";
     const struct {
         std::wstring name;
         Spoilt before;
@@ -72,6 +73,14 @@ TEST_F(NdwPagesTest, NamesThatMayBeTakenAndTriedAgain) {
         {L"B", Spoilt::Not, L""},
         {L" a ", Spoilt::File, L""}, // as A, which this run has failed to write
         {L"A", Spoilt::Not, taken},
+        {L"", Spoilt::Not, L"You must specify a valid name to continue."},
+        {L"Mill:2", Spoilt::Not,
+         it + L"contains one or more\r\nof the following invalid characters:\r\n"
+              L"          /  \\  :  *  ?  \"  <  >  |  \r\n\r\nTry a different name."},
+        {L"CON", Spoilt::Not, it + L"is reserved by Windows for a device." + again},
+        {L"abc.", Spoilt::Not, it + L"ends in a dot." + again},
+        {L"a\tb", Spoilt::Not, it + L"contains a control character." + again},
+        {L"a\u2215b", Spoilt::Not, it + L"contains the character \"\u2215\""},
         {std::wstring(longest, L'm'), Spoilt::Not, L""},
         {std::wstring(longest + 1, L'm'), Spoilt::Not, tooLong},
     };

@@ -57,7 +57,8 @@ TEST(cShellLink, RefusesWithoutAWord) {
         UpdateShortcutsIn(nullptr, suite.Path() + L"none\\below\\", true, true);
         UpdateShortcutsIn(nullptr, suite.Path() + L"one\\", true, false);
         UpdateShortcutsIn(nullptr, suite.Path(), true, true);
-        EXPECT_EQ(cShellLink().GetShellLinkInfo(suite.Path() + managers).value().workingFolder, suite.Path());
+        const ShellLinkInfo made = cShellLink().GetShellLinkInfo(suite.Path() + managers).value();
+        EXPECT_EQ(made.target + made.workingFolder, suite.Path() + L"VFileMgr.EXE" + suite.Path());
         const auto lock = Spoil(suite.Path() + managers, Spoilt::Locked);
         UpdateShortcutsIn(nullptr, suite.Path(), false, true);
     });
