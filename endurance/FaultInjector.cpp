@@ -114,31 +114,6 @@ const Row kRows[] = {
 
 #undef FAILS
 
-// What the saving of a link does is reached through an object: its class's own table is patched.
-HRESULT STDMETHODCALLTYPE FailingSave(IPersistFile* file, LPCOLESTR path, BOOL remember);
-decltype(&FailingSave) originalSave = nullptr;
-HRESULT STDMETHODCALLTYPE FailingSave(IPersistFile* file, LPCOLESTR path, BOOL remember) {
-    return FailsNow("IPersistFile::Save") ? E_FAIL : originalSave(file, path, remember);
-}
-
-void ReplaceSave() {
-    constexpr int kSaveSlot = 6; // behind IUnknown, GetClassID, IsDirty and Load
-    CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-    IPersistFile* file = nullptr;
-    const HRESULT made = CoCreateInstance(CLSID_ShellLink, nullptr, CLSCTX_INPROC_SERVER, IID_IPersistFile,
-                                          reinterpret_cast<void**>(&file));
-    if (SUCCEEDED(made)) {
-        void** slot = *reinterpret_cast<void***>(file) + kSaveSlot;
-        DWORD protection = 0;
-        VirtualProtect(slot, sizeof *slot, PAGE_READWRITE, &protection);
-        originalSave = reinterpret_cast<decltype(&FailingSave)>(*slot);
-        *slot = reinterpret_cast<void*>(&FailingSave);
-        VirtualProtect(slot, sizeof *slot, protection, &protection);
-        file->Release();
-    }
-    CoUninitialize();
-}
-
 class Injector {
   public:
     Injector() {
@@ -146,7 +121,6 @@ class Injector {
         failing = which ? std::strtol(which, nullptr, 10) : 0;
         everAfter = which && std::strchr(which, '+') != nullptr;
         calls.reserve(4096);
-        ReplaceSave();
         for (const Row& row : kRows)
             *row.original = replaced_.emplace_back(row.name, row.replacement).Original<void*>();
     }

@@ -32,7 +32,7 @@ void AskForMore(const Walker& walker, const std::wstring& heading) {
             Ask(list, LB_SETSEL, TRUE, 0);
     if (heading == L"Specify CNC file location")
         for (HWND box : ControlsOf(walker.Main(), L"Edit"))
-            Ask(box, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(kCncFolder));
+            TypeOver(box, kCncFolder);
 }
 
 Journey Run(Scene& scene, const std::wstring& failing) {

@@ -172,9 +172,8 @@ class Monkey {
         const auto count = static_cast<std::uint32_t>(Ask(input, combo ? CB_GETCOUNT : LB_GETCOUNT));
         const std::uint32_t item = Below(std::max(count, 1U));
         Did(L"choose " + std::to_wstring(item));
-        Ask(input, combo ? CB_SETCURSEL : LB_SETCURSEL, item);
         if (!combo) Ask(input, LB_SETSEL, Below(2), static_cast<LPARAM>(item));
-        Notify(input, CBN_SELCHANGE);
+        Choose(input, static_cast<int>(item));
     }
 
     // One text in four may be one that is refused: what the page shows then is not what it stores.

@@ -57,13 +57,10 @@ std::set<std::wstring> Tree(const std::wstring& folder) {
     return tree;
 }
 
-// What is only in `after`, or has another size there; what has gone carries a "-".
+// What has come, gone or another size.
 std::vector<std::wstring> Changes(const std::set<std::wstring>& before, const std::set<std::wstring>& after) {
     std::vector<std::wstring> changes;
-    std::set_difference(after.begin(), after.end(), before.begin(), before.end(),
-                        std::back_inserter(changes));
-    for (const std::wstring& entry : before)
-        if (!after.contains(entry)) changes.push_back(L"-" + entry);
+    std::ranges::set_symmetric_difference(before, after, std::back_inserter(changes));
     return changes;
 }
 

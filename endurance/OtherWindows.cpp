@@ -3,7 +3,7 @@
 #include "endurance/Soak.h"
 
 #include <algorithm>
-#include <atomic>
+#include <latch>
 #include <thread>
 
 namespace {
@@ -13,39 +13,24 @@ constexpr wchar_t kClass[] = L"ForeignWindow";
 
 enum class Mood { Answers, Hangs };
 
-// Windows on a thread of their own, gone with this object.
-class Foreign {
-  public:
-    Foreign(const wchar_t* title, int count, Mood mood) : mood_(mood) {
-        thread_ = std::thread([this, title, count] { Live(title, count); });
-        while (!ready_)
-            Sleep(1);
-    }
-    ~Foreign() {
-        over_ = true;
-        thread_.join();
-    }
-    Foreign(const Foreign&) = delete;
-    Foreign& operator=(const Foreign&) = delete;
-
-  private:
-    void Live(const wchar_t* title, int count) {
+// Windows on a thread of their own, gone with the result.
+std::jthread Foreign(const wchar_t* title, int count, Mood mood) {
+    std::latch ready(1);
+    std::jthread thread([&ready, title, count, mood](const std::stop_token& over) {
         std::vector<HWND> windows;
         for (int i = 0; i < count; ++i)
             windows.push_back(CreateWindowExW(0, kClass, title, WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 100,
                                               100, nullptr, nullptr, nullptr, nullptr));
-        ready_ = true;
-        for (MSG message{}; !over_; Sleep(1))
-            while (mood_ != Mood::Hangs && !over_ && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
+        ready.count_down();
+        for (MSG message{}; !over.stop_requested(); Sleep(1))
+            while (mood != Mood::Hangs && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
                 DispatchMessageW(&message);
         for (HWND window : windows)
             DestroyWindow(window);
-    }
-
-    const Mood mood_;
-    std::atomic<bool> ready_ = false, over_ = false;
-    std::thread thread_;
-};
+    });
+    ready.wait();
+    return thread;
+}
 
 // A question to a window that hangs would never be answered.
 TEST(Soak, windows) {
@@ -68,7 +53,7 @@ TEST(Soak, windows) {
     };
     // clang-format on
     for (const Row& row : rows) {
-        const Foreign windows(row.title, row.count, row.mood);
+        const auto windows = Foreign(row.title, row.count, row.mood);
         const WizardDriver wizard(suite.CommandLine(), WizardDriver::Wait::No);
         Walker walker(wizard);
         EXPECT_TRUE(walker.WaitUntilReady() && walker.Heading() == L"Welcome") << Utf8(row.title);

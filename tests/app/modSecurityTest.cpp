@@ -7,8 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <thread>
-
 namespace {
 
 int undone = 0; // so many writes that another program undoes
@@ -16,6 +14,12 @@ decltype(&WritePrivateProfileStringA) systemWrite = nullptr;
 
 BOOL WINAPI WriteUnlessUndone(LPCSTR section, LPCSTR key, LPCSTR value, LPCSTR file) {
     return undone-- > 0 || systemWrite(section, key, value, file);
+}
+
+win::UniqueFile probe; // as another program has it open
+int pauses;
+void WINAPI Pause(DWORD) {
+    if (++pauses == 3) probe = {};
 }
 
 } // namespace
@@ -61,21 +65,22 @@ TEST(Security, Codes) {
 TEST(Security, OthersMayHaveTheProbeOpen) {
     constexpr DWORD kReadWrite = FILE_SHARE_READ | FILE_SHARE_WRITE;
     const struct {
-        DWORD access, share, held_ms;
+        DWORD access, share;
+        int pauses;
     } rows[] = {
-        {GENERIC_READ | DELETE, kReadWrite | FILE_SHARE_DELETE, 700},
-        {GENERIC_READ, FILE_SHARE_READ, 150},
-        {GENERIC_READ, kReadWrite, 150}, // only the delete has to wait
+        {GENERIC_READ | DELETE, kReadWrite | FILE_SHARE_DELETE, 0},
+        {GENERIC_READ, FILE_SHARE_READ, 3},
+        {GENERIC_READ, kReadWrite, 3}, // only the delete has to wait
     };
     const ScratchFolder folder;
-    for (const auto& [access, share, held_ms] : rows) {
-        win::UniqueFile other(CreateFileW((folder.Path() + suite::kProbeFile).c_str(), access, share, nullptr,
-                                          OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
-        const std::jthread holder([&other, time = held_ms] {
-            Sleep(time);
-            other = {};
-        });
-        EXPECT_EQ(TestFolderWrite(folder), 0) << "shared as " << share;
+    const ReplacedImport pause("Sleep", reinterpret_cast<void*>(&Pause));
+    for (const auto& row : rows) {
+        pauses = 0;
+        probe = win::UniqueFile(CreateFileW((folder.Path() + suite::kProbeFile).c_str(), row.access,
+                                            row.share, nullptr, OPEN_ALWAYS, 0, nullptr));
+        EXPECT_EQ(TestFolderWrite(folder), 0) << "shared as " << row.share;
+        EXPECT_EQ(pauses, row.pauses);
+        probe = {};
     }
 }
 

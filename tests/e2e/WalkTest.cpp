@@ -4,7 +4,6 @@
 #include "app/StartUp.h"
 #include "ftw/FtwPages.h"
 #include "ndw/NdwPages.h"
-#include "tests/e2e/WalksFile.h"
 #include "tests/support/DcpByHand.h"
 #include "tests/support/DemoSuite.h"
 #include "tools/driver/Keyboard.h"
@@ -26,6 +25,31 @@ namespace {
 
 using Text = std::wstring;
 
+struct Line {
+    int number; // in walks.txt
+    Text text;
+};
+
+// The sections of walks.txt by their names.
+const std::map<Text, std::vector<Line>>& AllWalks() {
+    static const auto all = [] {
+        std::map<Text, std::vector<Line>> walks;
+        Text name;
+        std::istringstream lines(FileBytes(TestFolder() + L"..\\..\\tests\\e2e\\walks.txt"));
+        int number = 0;
+        for (std::string bytes; std::getline(lines, bytes);) {
+            const Text text = FromUtf8(bytes);
+            ++number;
+            if (text.starts_with(L"== "))
+                name = text.substr(3);
+            else if (!text.empty() && text.front() != L'#')
+                walks[name].push_back({number, text});
+        }
+        return walks;
+    }();
+    return all;
+}
+
 struct Walk {
     DemoSuite suite;
     std::optional<WizardDriver> wizard;
@@ -45,45 +69,6 @@ const std::map<Text, Spoilt> kSpoilt = {{L"missing", Spoilt::Missing},
                                         {L"locked", Spoilt::Locked}};
 
 void Expect(const Text& is, const Text& wanted) { EXPECT_EQ(Utf8(is), Utf8(wanted)); }
-
-bool IsChecked(const Walk& walk, const Text& caption) {
-    const HWND button = walk.On().Button(caption);
-    if (!button) Fail(L"not on the page: " + caption);
-    return Ask(button, BM_GETCHECK) == BST_CHECKED;
-}
-
-void Check(const Walk& walk, const Text& caption, bool on) {
-    if (IsChecked(walk, caption) != on) walk.On().Press(caption);
-    walk.On().Until([&] { return IsChecked(walk, caption) == on; }, L"a change of " + caption);
-}
-
-void Type(const Walk& walk, const Text& prompt, const Text& text) {
-    const HWND box = walk.On().Input(L"Edit", prompt);
-    Ask(box, EM_SETSEL, 0, -1);
-    Ask(box, WM_CLEAR);
-    for (const wchar_t c : text)
-        Ask(box, WM_CHAR, c);
-}
-
-void Select(HWND input, UINT message, WORD code, const Text& index) {
-    Ask(input, message, static_cast<WPARAM>(std::stoi(index)));
-    Notify(input, code);
-}
-
-// Presses Next or Back until the page is there.
-void GoTo(const Walk& walk, const wchar_t* button, const Text& heading) {
-    while (walk.On().Heading() != heading) {
-        const Text before = walk.On().Heading();
-        walk.On().Press(button);
-        walk.On().Until([&] { return walk.On().Heading() != before; }, L"a page after " + before);
-        walk.On().WaitForPage(walk.On().Heading());
-    }
-}
-
-void Move(const Walk& walk, const wchar_t* button, const Text& heading) {
-    walk.On().Press(button);
-    walk.On().WaitForPage(heading);
-}
 
 Text Items(HWND list) {
     Text items;
@@ -132,20 +117,6 @@ void PressKeys(const Text& keys) {
     std::wistringstream each(keys);
     for (Text key; each >> key;)
         PressKey(key);
-}
-
-// Loads a library by its bare name within the wizard, as parts of the system do that it has loaded.
-void LoadWithin(const Walk& walk, const Text& library) {
-    const win::UniqueKernelHandle process(OpenProcess(PROCESS_ALL_ACCESS, FALSE, walk.On().ProcessId()));
-    const std::size_t room = (library.size() + 1) * sizeof library[0];
-    void* name = VirtualAllocEx(process.Get(), nullptr, room, MEM_COMMIT, PAGE_READWRITE);
-    WriteProcessMemory(process.Get(), name, library.c_str(), room, nullptr);
-    // The system's own libraries lie at the same place in every process.
-    const auto load = reinterpret_cast<LPTHREAD_START_ROUTINE>(
-        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "LoadLibraryW")));
-    const win::UniqueKernelHandle thread(
-        CreateRemoteThread(process.Get(), nullptr, 0, load, name, 0, nullptr));
-    EXPECT_EQ(WaitForSingleObject(thread.Get(), INFINITE), WAIT_OBJECT_0);
 }
 
 void ExpectCorner(const Walk& walk) {
@@ -211,17 +182,17 @@ const Verb kVerbs[] = {
     {L"again",     [](Walk& w, const Text& a, const Text&) { StartAgain(w, a); }},
     {L"minimise",  [](Walk& w, const Text&, const Text&) { ShowWindow(w.On().Window(), SW_MINIMIZE); }},
     {L"next",      [](Walk& w, const Text& a, const Text&) { w.On().Next(a); }},
-    {L"back",      [](Walk& w, const Text& a, const Text&) { Move(w, L"< Back", a); }},
-    {L"skip",      [](Walk& w, const Text& a, const Text&) { Move(w, L"&Skip", a); }},
-    {L"new",       [](Walk& w, const Text& a, const Text&) { Move(w, L"&New", a); }},
-    {L"to",        [](Walk& w, const Text& a, const Text&) { GoTo(w, L"&Next >", a); }},
-    {L"backto",    [](Walk& w, const Text& a, const Text&) { GoTo(w, L"< Back", a); }},
+    {L"back",      [](Walk& w, const Text& a, const Text&) { w.On().Move(L"< Back", a); }},
+    {L"skip",      [](Walk& w, const Text& a, const Text&) { w.On().Move(L"&Skip", a); }},
+    {L"new",       [](Walk& w, const Text& a, const Text&) { w.On().Move(L"&New", a); }},
+    {L"to",        [](Walk& w, const Text& a, const Text&) { w.On().MoveTo(L"&Next >", a); }},
+    {L"backto",    [](Walk& w, const Text& a, const Text&) { w.On().MoveTo(L"< Back", a); }},
     {L"press",     [](Walk& w, const Text& a, const Text&) { w.On().Press(a); }},
-    {L"on",        [](Walk& w, const Text& a, const Text&) { Check(w, a, true); }},
-    {L"off",       [](Walk& w, const Text& a, const Text&) { Check(w, a, false); }},
-    {L"type",      [](Walk& w, const Text& a, const Text& b) { Type(w, a, b); }},
-    {L"pick",      [](Walk& w, const Text& a, const Text& b) { Select(w.On().Input(L"ComboBox", a), CB_SETCURSEL, CBN_SELCHANGE, b); }},
-    {L"choose",    [](Walk& w, const Text& a, const Text& b) { Select(w.On().Input(L"ListBox", a), LB_SETCURSEL, LBN_SELCHANGE, b); }},
+    {L"on",        [](Walk& w, const Text& a, const Text&) { w.On().Check(a, true); }},
+    {L"off",       [](Walk& w, const Text& a, const Text&) { w.On().Check(a, false); }},
+    {L"type",      [](Walk& w, const Text& a, const Text& b) { TypeOver(w.On().Input(L"Edit", a), b); }},
+    {L"pick",      [](Walk& w, const Text& a, const Text& b) { Choose(w.On().Input(L"ComboBox", a), std::stoi(b)); }},
+    {L"choose",    [](Walk& w, const Text& a, const Text& b) { Choose(w.On().Input(L"ListBox", a), std::stoi(b)); }},
     {L"mark",      [](Walk& w, const Text& a, const Text&) { Ask(w.On().Input(L"ListBox", L""), LB_SETSEL, TRUE, std::stoi(a)); }},
     {L"box",       [](Walk& w, const Text& a, const Text& b) { EXPECT_EQ(Utf8(w.On().AnswerBox(kButtons.at(a))).find(Utf8(b)), 0u) << Utf8(b); }},
     {L"at",        [](Walk& w, const Text& a, const Text&) { w.wizard->GoTo(a); }},
@@ -231,7 +202,7 @@ const Verb kVerbs[] = {
     {L"double",    [](Walk& w, const Text& a, const Text&) { Click(w.On().Button(a)), Click(w.On().Button(a), 9, WM_LBUTTONDBLCLK); }},
     {L"scroll",    [](Walk& w, const Text&, const Text&) { Click(w.On().Input(L"ScrollBar", L""), -4); }},
     {L"close",     [](Walk& w, const Text&, const Text&) { PostMessageW(w.On().Window(), WM_CLOSE, 0, 0); }},
-    {L"load",      [](Walk& w, const Text& a, const Text&) { LoadWithin(w, a); }},
+    {L"load",      [](Walk& w, const Text& a, const Text&) { w.On().Load(a); }},
     {L"log",       [](Walk& w, const Text&, const Text&) { LogOff(w); }},
     {L"exit",      [](Walk& w, const Text& a, const Text&) { Expect(std::to_wstring(w.On().WaitForExit()), a.empty() ? L"0" : a); }},
     // what the page shows
@@ -241,8 +212,8 @@ const Verb kVerbs[] = {
     {L"there",     [](Walk& w, const Text& a, const Text&) { EXPECT_TRUE(IsWindowEnabled(w.On().Button(a))); }},
     {L"grey",      [](Walk& w, const Text& a, const Text&) { EXPECT_TRUE(w.On().Button(a) && !IsWindowEnabled(w.On().Button(a))); }},
     {L"gone",      [](Walk& w, const Text& a, const Text&) { EXPECT_FALSE(w.On().Button(a)); }},
-    {L"checked",   [](Walk& w, const Text& a, const Text&) { w.On().Until([&] { return IsChecked(w, a); }, L"a check of " + a); }},
-    {L"unchecked", [](Walk& w, const Text& a, const Text&) { EXPECT_FALSE(IsChecked(w, a)); }},
+    {L"checked",   [](Walk& w, const Text& a, const Text&) { w.On().Until([&] { return w.On().IsChecked(a); }, L"a check of " + a); }},
+    {L"unchecked", [](Walk& w, const Text& a, const Text&) { EXPECT_FALSE(w.On().IsChecked(a)); }},
     {L"typed",     [](Walk& w, const Text& a, const Text& b) { Expect(TextOf(w.On().Input(L"Edit", a)), b); }},
     {L"picked",    [](Walk& w, const Text& a, const Text& b) { Expect(TextOf(w.On().Input(L"ComboBox", a)), b); }},
     {L"items",     [](Walk& w, const Text& a, const Text&) { Expect(Items(w.On().Input(L"ListBox", L"")), a); }},
@@ -285,7 +256,7 @@ Text Walk::Replaced(Text text) const {
 }
 
 void Walk::Follow(const Text& section) {
-    for (const WalkLine& line : AllWalks().at(section)) {
+    for (const Line& line : AllWalks().at(section)) {
         SCOPED_TRACE("line " + std::to_string(line.number) + ": " + Utf8(line.text));
         const Text word = line.text.substr(0, line.text.find(L' '));
         const auto verb = std::find_if(std::begin(kVerbs), std::end(kVerbs),

@@ -63,14 +63,9 @@ class Program(unittest.TestCase):
         for place in ("FILEVERSION", "PRODUCTVERSION"):
             self.assertIn(f"{place} {version.replace('.', ', ')}, 0\n", resource)
         self.assertEqual(dict(re.findall(r'VALUE "(\w+)", "(.*)"', resource)), {
-            "CompanyName":      "Varnel",
-            "FileDescription":  "Varnel DNC Setup and Configuration Wizard",
-            "FileVersion":      version,
-            "InternalName":     "VWizard",
-            "OriginalFilename": "VWizard.exe",
-            "ProductName":      "Varnel DNC",
-            "ProductVersion":   version,
-        })
+            "CompanyName": "Varnel", "FileDescription": "Varnel DNC Setup and Configuration Wizard",
+            "FileVersion": version, "ProductVersion": version, "InternalName": "VWizard",
+            "OriginalFilename": "VWizard.exe", "ProductName": "Varnel DNC"})
 
     def test_tells_nothing_about_the_computer_that_built_it(self):
         places = {ROOT, os.path.expanduser("~") + "/", "/usr/", "/tmp/", "/home/", "/root/", "/build/"}

@@ -44,5 +44,6 @@ Spoken SpokenOf(HWND control);
 
 bool IsTabStop(HWND control); // may take the focus by Tab
 
-// The text of a control and the look of each character, noted as in tests/wizard/Described.h.
+// The text of a control, in braces what changes in its look: "{rb}" red and bold, "{* 150 150}" a bullet
+// and the indents in twips, "{}" as usual.
 std::wstring Described(win::RichText& control, const wchar_t* lineEnd = L"/");

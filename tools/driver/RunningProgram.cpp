@@ -2,6 +2,7 @@
 
 #include "tools/driver/Windows.h"
 #include "tools/driver/Words.h"
+#include "win/Handles.h"
 
 namespace {
 
@@ -47,6 +48,19 @@ HWND RunningProgram::FindWindowOf(const std::wstring& className, const std::wstr
             (title.empty() || TextOf(window) == title) && (child == 0 || GetDlgItem(window, child)))
             return window;
     return nullptr;
+}
+
+void RunningProgram::Load(const std::wstring& library) const {
+    const std::size_t room = (library.size() + 1) * sizeof library[0];
+    void* name = VirtualAllocEx(process_.hProcess, nullptr, room, MEM_COMMIT, PAGE_READWRITE);
+    WriteProcessMemory(process_.hProcess, name, library.c_str(), room, nullptr);
+    // The system's own libraries lie at the same place in every process.
+    const auto load = reinterpret_cast<LPTHREAD_START_ROUTINE>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32.dll"), "LoadLibraryW")));
+    const win::UniqueKernelHandle thread(
+        CreateRemoteThread(process_.hProcess, nullptr, 0, load, name, 0, nullptr));
+    if (!thread || WaitForSingleObject(thread.Get(), kPatience_ms) != WAIT_OBJECT_0)
+        Fail(L"cannot load " + library);
 }
 
 std::wstring RunningProgram::Describe() const {

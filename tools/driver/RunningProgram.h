@@ -24,6 +24,9 @@ class RunningProgram {
     // A visible window with a child of that id, unless it is 0; "" fits every class and every title. Or null.
     HWND FindWindowOf(const std::wstring& className, const std::wstring& title, int child = 0) const;
 
+    // Loads a library by its bare name within the program, as the system does on behalf of its own parts.
+    void Load(const std::wstring& library) const;
+
     // Every visible window with its controls, one a line; and whether the program has ended.
     std::wstring Describe() const;
 

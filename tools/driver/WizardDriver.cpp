@@ -1,17 +1,31 @@
 #include "tools/driver/WizardDriver.h"
 
 #include "tools/driver/Windows.h"
+#include "tools/driver/Words.h"
 
 namespace {
 
 constexpr int kHeadingId = 120;
 constexpr int kBoxText = 65535; // the id of a message box's text
 
-} // namespace
-
 void Notify(HWND control, WORD code) {
     const auto id = static_cast<WORD>(GetDlgCtrlID(control));
     Ask(GetParent(control), WM_COMMAND, MAKEWPARAM(id, code), reinterpret_cast<LPARAM>(control));
+}
+
+} // namespace
+
+void TypeOver(HWND box, const std::wstring& text) {
+    Ask(box, EM_SETSEL, 0, -1);
+    Ask(box, WM_CLEAR);
+    for (const wchar_t c : text)
+        Ask(box, WM_CHAR, c);
+}
+
+void Choose(HWND list, int item) {
+    const bool isCombo = ClassOf(list) == L"ComboBox";
+    Ask(list, isCombo ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(item));
+    Notify(list, isCombo ? CBN_SELCHANGE : LBN_SELCHANGE);
 }
 
 WizardDriver::WizardDriver(const std::wstring& commandLine, Wait wait) : RunningProgram(commandLine) {
@@ -39,8 +53,31 @@ std::wstring WizardDriver::PageText() const {
 }
 
 void WizardDriver::Next(const std::wstring& heading) const {
-    Press(Button(L"&Create") ? L"&Create" : L"&Next >");
+    Move(Button(L"&Create") ? L"&Create" : L"&Next >", heading);
+}
+
+void WizardDriver::Move(const std::wstring& button, const std::wstring& heading) const {
+    Press(button);
     WaitForPage(heading);
+}
+
+void WizardDriver::MoveTo(const std::wstring& button, const std::wstring& heading) const {
+    for (std::wstring before = Heading(); before != heading; before = Heading()) {
+        Press(button);
+        Until([&] { return Heading() != before; }, L"a page after " + before);
+        WaitForPage(Heading());
+    }
+}
+
+bool WizardDriver::IsChecked(const std::wstring& caption) const {
+    const HWND button = Button(caption);
+    if (!button) Fail(L"not on the page: " + caption);
+    return Ask(button, BM_GETCHECK) == BST_CHECKED;
+}
+
+void WizardDriver::Check(const std::wstring& caption, bool on) const {
+    if (IsChecked(caption) != on) Press(caption);
+    Until([&] { return IsChecked(caption) == on; }, L"a change of " + caption);
 }
 
 // A click goes through the message queue, so that a modal window that it opens does not hold up the test.

@@ -23,6 +23,12 @@ class WizardDriver : public RunningProgram {
     // Presses Next (or Create) and waits for the page with that heading.
     void Next(const std::wstring& heading) const;
     void Press(const std::wstring& caption) const; // returns at once; a box that opens can be answered
+    // Presses the button once and waits for the page, or again and again until it is there.
+    void Move(const std::wstring& button, const std::wstring& heading) const;
+    void MoveTo(const std::wstring& button, const std::wstring& heading) const;
+    // Options and boxes, by their captions.
+    bool IsChecked(const std::wstring& caption) const;
+    void Check(const std::wstring& caption, bool on) const;
 
     // The visible control of that class: the one with just this text, and the first one behind the label
     // `prompt` ("" for the first on the page; waits for it). Null: none.
@@ -41,5 +47,6 @@ class WizardDriver : public RunningProgram {
     HWND window_ = nullptr;
 };
 
-// Tells the form what a control would tell when a person changed it.
-void Notify(HWND control, WORD code);
+// As a person does it, the form being told.
+void TypeOver(HWND box, const std::wstring& text); // what it holds is gone
+void Choose(HWND list, int item);                  // of a list or combo box, from 0

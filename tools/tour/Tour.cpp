@@ -76,13 +76,10 @@ class Tour {
         const int page = PageNumber();
         Settle(main_);
         if (newDevice_ && page == 5) Ask(FindControl(main_, L"Button", L"ASCII"), BM_CLICK);
-        if (FindControl(main_, L"Button", L"&Create")) Type(L"Tour Mill");
-        if (!newDevice_ && page == 9) Type(L"C:\\CNC Programs");
+        if (FindControl(main_, L"Button", L"&Create"))
+            TypeOver(FindControl(main_, L"Edit", L""), L"Tour Mill");
+        if (!newDevice_ && page == 9) TypeOver(FindControl(main_, L"Edit", L""), L"C:\\CNC Programs");
         if (!newDevice_ && page == 12) Ask(FindControl(main_, L"ListBox", L""), LB_SETSEL, TRUE, 0);
-    }
-
-    void Type(const wchar_t* text) const {
-        Ask(FindControl(main_, L"Edit", L""), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text));
     }
 
     // Presses Next and whatever asks on the way, until the page has changed or the program has ended.
