@@ -33,6 +33,7 @@ void MakeFile(const std::wstring& path, const void* bytes, DWORD size) {
     if (written != size) throw std::runtime_error("cannot write a file");
 }
 
+// Each file is new, and gone again outside the time: writing over one costs less.
 double RawWrite(const std::wstring& path) {
     static const std::vector<char> bytes(kDcpSize, 'x');
     const double time = TimeOf([&] { MakeFile(path, bytes.data(), kDcpSize); });
@@ -40,6 +41,7 @@ double RawWrite(const std::wstring& path) {
     return time;
 }
 
+// From the answers to the file on disk, as the name page does it.
 double DcpWrite(const std::wstring& path) {
     bool written = false;
     const double time = TimeOf([&] {
@@ -67,6 +69,7 @@ int Enumerate(const std::wstring& folder) {
     return count;
 }
 
+// Ours and the raw one in turn, many times: what else goes on in the machine falls on both.
 void MeasureDcp(const Bench& bench) {
     std::vector<double> ours, theirs;
     for (int run = 0; run < bench.runs * 10; ++run) {
@@ -113,6 +116,7 @@ VOID CALLBACK CloseIcons(HWND, UINT, UINT_PTR timer, DWORD) {
     SendMessageW(icons, WM_CLOSE, 0, 0);
 }
 
+// Without the window and its drawing, the peer does what any picker has to.
 void MeasureIcons(const Bench& bench) {
     const std::wstring folder = bench.scratch + L"Icons\\";
     CreateDirectoryW(folder.c_str(), nullptr);

@@ -5,6 +5,7 @@
 
 namespace {
 
+// Asks nobody: the text that the system keeps is there before the program answers messages.
 std::wstring CaptionOf(HWND window) {
     wchar_t text[256] = L"";
     GetWindowTextW(window, text, 256);
@@ -27,6 +28,7 @@ BOOL CALLBACK NoteUnpainted(HWND window, LPARAM unpainted) {
     return TRUE;
 }
 
+// A window is ready for a person when neither it nor a control of it has anything left to be painted.
 bool IsPainted(HWND window) {
     bool unpainted = false;
     NoteUnpainted(window, reinterpret_cast<LPARAM>(&unpainted));

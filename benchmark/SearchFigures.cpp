@@ -27,6 +27,7 @@ int ReadTexts(HWND start) {
     return count;
 }
 
+// The windows belong to another process: a text of one's own costs no switch between two.
 class OtherProcess {
   public:
     explicit OtherProcess(const Bench& bench) {
@@ -69,6 +70,7 @@ int OpenManyWindows() {
         if (top) owner = made;
     }
     SetWindowTextW(owner, kReadyTitle);
+    // A process that did not answer would be another figure.
     MSG message{};
     while (GetMessageW(&message, nullptr, 0, 0) > 0)
         DispatchMessageW(&message);

@@ -9,8 +9,10 @@
 
 namespace {
 
+// Posted by the first page to itself: the sheet is not complete while a page is being activated.
 constexpr UINT kTakeTour = WM_APP + 1;
 
+// A page procedure gets no data of the sheet's owner, and there is one sheet at a time.
 const std::function<void(HWND)>* tourToTake = nullptr;
 bool tourTaken = false;
 

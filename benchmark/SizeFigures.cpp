@@ -30,6 +30,7 @@ double Kilobytes(DWORD bytes) { return static_cast<double>(bytes) / 1024; }
 
 } // namespace
 
+// The pictures are the designer's, in four resolutions: what we answer for is the rest.
 void MeasureSize(const Bench& bench) {
     const std::wstring wizard = bench.suite + L"VWizard.exe";
     const DWORD all = SizeOf(wizard);

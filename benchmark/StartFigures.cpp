@@ -61,6 +61,7 @@ void PrintMemory(const Runs& ours, const Runs& theirs, double wanted) {
                Median(theirs.memory), "kB", wanted);
 }
 
+// A program that waits does nothing at all: a timer left running would show as wake-ups.
 void MeasureIdleOf(Program program) {
     constexpr DWORD kSettle_ms = 2000;
     constexpr DWORD kIdle_ms = 10000;
@@ -78,6 +79,7 @@ void MeasureIdleOf(Program program) {
 
 } // namespace
 
+// All programs in turn, run after run, so that each of them meets the same state of the machine.
 void MeasureStart(const Bench& bench) {
     std::vector<Runs> ours = {{FirstTimeSetup(bench)}, {NewDevice(bench)}};
     std::vector<Runs> theirs = Peers(bench);

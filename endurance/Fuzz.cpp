@@ -45,23 +45,22 @@ NdwAnswers ValidAnswers(FuzzedDataProvider& from) {
         std::erase_if(text, [](wchar_t c) { return c < L' ' || c > L'~' || c == L'?'; });
         return text;
     };
-    NdwAnswers answers;
-    answers.portIndex = index(kPortCount);
-    answers.baudIndex = index(kBaudRates.size());
-    answers.dataFormatIndex = index(kDataFormats.size());
-    answers.characterFormatIndex = index(kCharacterFormats.size());
-    answers.flowControlIndex = index(kFlowControls.size());
-    answers.endOfBlockIndex = index(kEndOfBlocks.size());
-    answers.prefixChoice = index(std::size_t{1} << kPrefixChoices.size());
-    answers.suffixChoice = index(std::size_t{1} << kSuffixChoices.size());
-    answers.filterOptions = index(std::size_t{1} << kFilterOptions.size());
-    answers.transmitTriggerIndex = index(kTransmitTriggers.size());
-    answers.receiveNamingIndex = index(kReceiveNamings.size());
-    answers.receiveTerminationIndex = index(kReceiveTerminations.size());
-    answers.removedLines = ascii();
-    answers.receivePrefix = ascii();
-    answers.receiveExtension = from.PickValueInArray({L"", L"NC", L"MIN", L"x"});
-    return answers;
+    return {index(kPortCount),
+            index(kBaudRates.size()),
+            index(kDataFormats.size()),
+            index(kCharacterFormats.size()),
+            index(kFlowControls.size()),
+            index(kEndOfBlocks.size()),
+            index(std::size_t{1} << kPrefixChoices.size()),
+            index(std::size_t{1} << kSuffixChoices.size()),
+            index(std::size_t{1} << kFilterOptions.size()),
+            index(kTransmitTriggers.size()),
+            index(kReceiveNamings.size()),
+            index(kReceiveTerminations.size()),
+            ascii(),
+            ascii(),
+            from.PickValueInArray({L"", L"NC", L"MIN", L"x"}),
+            L""};
 }
 
 // Answers become bytes, and the bytes records that become the same bytes.

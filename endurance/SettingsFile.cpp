@@ -16,17 +16,11 @@ struct Row {
     const char* what;
     Ends ends;
     Disk disk;
-    bool large;
-};
-
-// clang-format off
-constexpr Row kRows[] = {
-    {"usual",              Ends::Finished, Disk::Large,   false},
-    {"many keys",          Ends::Finished, Disk::Large,   true},
-    {"full disk",          Ends::Denied,   Disk::Full,    false},
-    {"disk that fills up", Ends::Told,     Disk::FillsUp, false},
-};
-// clang-format on
+    int full, few; // keys of others
+} const kRows[] = {{"usual", Ends::Finished, Disk::Large, 0, 0},
+                   {"many keys", Ends::Finished, Disk::Large, 100000, 1000},
+                   {"full disk", Ends::Denied, Disk::Full, 0, 0},
+                   {"disk that fills up", Ends::Told, Disk::FillsUp, 0, 0}};
 
 // Keys of others around those of the wizard, with comments.
 std::string Content(int keys) {
@@ -91,7 +85,7 @@ void Try(const Row& row) {
     const std::wstring settings = row.disk == Disk::Large ? suite.Settings() : PathFrom("SOAK_SMALL_DISK");
     if (settings.empty()) GTEST_SKIP() << row.what << " needs root, to mount a small disk";
     const std::wstring file = settings + suite::kIniFile;
-    const std::string content = Content(row.large ? Of(100000, 1000) : 0);
+    const std::string content = Content(Of(row.full, row.few));
     for (const std::wstring& old : FileNames(settings))
         DeleteFileW((settings + old).c_str());
     SetRegText(HKEY_CURRENT_USER, L"SOFTWARE\\Varnel\\Varnel DNC\\Paths", L"SettingsPath", settings);

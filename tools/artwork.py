@@ -26,7 +26,7 @@ SVG = "{http://www.w3.org/2000/svg}"
 
 DPI = (96, 120, 144, 192)
 PICTURES = ("picScreenLogo", "picCncIcon", "picLogo", "picVarnel")
-MAX_COLOURS = 256
+MAX_COLORS = 256
 
 # Frames above the limit are PNG in the container, which keeps the program small.
 #                name pattern       sizes                              largest plain frame
@@ -142,9 +142,9 @@ def to_palette(rows):
                 raise ValueError("a picture of the window must be opaque")
             counts[pixel[:3]] = counts.get(pixel[:3], 0) + 1
     ranked = sorted(counts, key=lambda c: (-counts[c], c))
-    palette = ranked[:MAX_COLOURS]
+    palette = ranked[:MAX_COLORS]
     index = {c: i for i, c in enumerate(palette)}
-    for c in ranked[MAX_COLOURS:]:
+    for c in ranked[MAX_COLORS:]:
         index[c] = min(range(len(palette)),
                        key=lambda i: sum((a - b) ** 2 for a, b in zip(palette[i], c)))
     return palette, [[index[p[:3]] for p in row] for row in rows]
@@ -181,11 +181,11 @@ def bmp(rows):
     palette, indexed = to_palette(rows)
     bits = b"".join(rle8_row(row) + b"\0\0" for row in reversed(indexed[1:]))
     bits += rle8_row(indexed[0]) + b"\0\1"
-    colours = b"".join(bytes((b, g, r, 0)) for r, g, b in palette)
-    offset = 14 + 40 + len(colours)
+    colors = b"".join(bytes((b, g, r, 0)) for r, g, b in palette)
+    offset = 14 + 40 + len(colors)
     return (struct.pack("<2sIHHI", b"BM", offset + len(bits), 0, 0, offset) +
             struct.pack("<IiiHHIIiiII", 40, len(rows[0]), len(rows), 1, 8, 1, len(bits), 0, 0,
-                        len(palette), len(palette)) + colours + bits)
+                        len(palette), len(palette)) + colors + bits)
 
 
 # --- icons ---------------------------------------------------------------------------------

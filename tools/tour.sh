@@ -37,7 +37,7 @@ done
 export DISPLAY=:$(cat "$work/display")
 
 # White text on black, with the colors of the scheme of that name that comes with the system.
-contrast_colours() {
+contrast_colors() {
     local name
     printf 'REGEDIT4\n\n[HKEY_CURRENT_USER\\Control Panel\\Colors]\n'
     for name in ButtonFace Window Menu MenuBar Scrollbar InfoWindow AppWorkSpace HilightText; do
@@ -59,7 +59,7 @@ contrast_colours() {
 use_prefix "tour-$dpi$contrast" x11
 wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$dpi" /f > /dev/null 2>&1
 if [ -n "$contrast" ]; then
-    contrast_colours > "$work/scheme.reg"
+    contrast_colors > "$work/scheme.reg"
     wine reg import "$(windows_path "$work/scheme.reg")" > /dev/null 2>&1
     wine reg add 'HKCU\Software\Microsoft\Windows\CurrentVersion\ThemeManager' /v ThemeActive /d 0 /f > /dev/null 2>&1
 fi

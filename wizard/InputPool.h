@@ -6,7 +6,7 @@
 
 #include "win/Control.h"
 #include "win/RichText.h"
-#include "wizard/Layout.h"
+#include "wizard/FormLayout.h"
 #include "wizard/Links.h"
 
 #include <array>
@@ -45,7 +45,8 @@ template <class Group> void HideGroup(Group& group) {
 }
 
 // Places inputs of the pool from the page text downwards and shows them. The order of the calls is the
-// tab order and the order in which a screen reader walks the page. Heights and gaps are those of Layout.h.
+// tab order and the order in which a screen reader walks the page. Heights and gaps are those of
+// FormLayout.h.
 class InputColumn {
   public:
     // Starts below the page text.

@@ -2,7 +2,7 @@
 
 #include "win/Arrangement.h"
 #include "win/Screen.h"
-#include "wizard/Layout.h"
+#include "wizard/FormLayout.h"
 #include "wizard/Markup.h"
 #include "wizard/frmWizard.h"
 

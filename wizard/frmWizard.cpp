@@ -9,8 +9,8 @@
 #include "win/Arrangement.h"
 #include "win/Fonts.h"
 #include "win/Screen.h"
+#include "wizard/FormLayout.h"
 #include "wizard/FormPlace.h"
-#include "wizard/Layout.h"
 #include "wizard/PermissionPage.h"
 
 #include <cstdlib>

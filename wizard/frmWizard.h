@@ -9,8 +9,8 @@
 #include "win/Form.h"
 #include "win/PictureArea.h"
 #include "win/RichText.h"
+#include "wizard/FormLayout.h"
 #include "wizard/InputPool.h"
-#include "wizard/Layout.h"
 #include "wizard/Page.h"
 
 #include <array>

@@ -44,13 +44,6 @@ bool CompanionRuns() {
     return false;
 }
 
-// The value of the line that begins with `key`, from `from` on; moves `from` behind it.
-std::wstring Take(const std::string& log, const std::string& key, std::size_t& from) {
-    const std::size_t start = log.find(key, from) + key.size();
-    from = log.find("\r\n", start);
-    return FromUtf8(log.substr(start, from - start));
-}
-
 } // namespace
 
 DemoSuite::DemoSuite() {
@@ -79,24 +72,9 @@ void DemoSuite::CopyAll(const std::wstring& part) const {
         Copy(from + name, Folder() + part + name);
 }
 
-std::vector<Start> DemoSuite::Starts(const std::wstring& program) const {
-    const std::wstring path = Folder() + program + L".log";
-    std::vector<Start> starts;
-    if (GetFileAttributesW(path.c_str()) == INVALID_FILE_ATTRIBUTES) return starts;
-    const std::string log = FileBytes(path);
-    for (std::size_t from = 0; log.find("command=", from) != std::string::npos;) {
-        Start start;
-        start.commandLine = Take(log, "command=", from);
-        start.show = std::stoi(Take(log, "show=", from));
-        start.folder = Take(log, "folder=", from);
-        starts.push_back(start);
-    }
-    return starts;
-}
-
 std::vector<Start> DemoSuite::WaitForStarts(const std::wstring& program, std::size_t count) const {
     for (const ULONGLONG begin = GetTickCount64();; Sleep(10)) {
-        auto starts = Starts(program);
+        auto starts = StartsOf(Folder() + program);
         if (starts.size() >= count) return starts;
         if (GetTickCount64() - begin > kPatience_ms) Fail(L"was not started: " + program);
     }
@@ -108,7 +86,7 @@ std::size_t DemoSuite::StartCount() const {
         if (GetTickCount64() - begin > kPatience_ms) Fail(L"a companion program does not end");
     std::size_t count = 0;
     for (const wchar_t* name : kCompanions)
-        count += Starts(name).size();
+        count += StartsOf(Folder() + name).size();
     return count;
 }
 

@@ -1,12 +1,6 @@
 #pragma once
 #include "tests/support/Scratch.h"
-
-// What a stand-in wrote down when it was started.
-struct Start {
-    std::wstring commandLine; // whole, with the program's own quoted path in front
-    std::wstring folder;      // the current folder
-    int show = 0;             // SW_... asked for by the starter
-};
+#include "tools/standin/StartLog.h"
 
 // A scratch suite on disk for one test: the wizard under its own name, a stand-in for each companion
 // program, placeholder documents, a settings folder. The registry of the Wine prefix points at it; all of it
@@ -26,9 +20,7 @@ class DemoSuite {
     // A file that is built beside the wizard, under a name of its own.
     void Add(const std::wstring& file, const std::wstring& name) const;
 
-    // What `program` (a file name such as L"VConfig.exe") was started with so far, the oldest first.
-    std::vector<Start> Starts(const std::wstring& program) const;
-    // Waits until `program` has been started `count` times.
+    // Waits until `program` (a file name such as L"VConfig.exe") has been started `count` times.
     std::vector<Start> WaitForStarts(const std::wstring& program, std::size_t count = 1) const;
     // How often any stand-in was started; waits until none that was started still runs.
     std::size_t StartCount() const;

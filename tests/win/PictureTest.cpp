@@ -9,7 +9,7 @@ namespace {
 
 constexpr COLORREF kWhite = RGB(255, 255, 255);
 
-// At the resolutions drawn for and one that is not; it stands on the column's colour.
+// At the resolutions drawn for and one that is not; it stands on the column's color.
 TEST(Picture, HasItsPlaceAndSizeAtEachResolution) {
     constexpr std::pair<int, SIZE> kPictures[] = {
         {IDB_SCREEN_LOGO, {72, 72}}, {IDB_CNC_ICON, {72, 72}}, {IDB_LOGO, {96, 40}}, {IDB_VARNEL, {80, 24}}};

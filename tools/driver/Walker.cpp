@@ -36,6 +36,7 @@ std::wstring Journey::Story() const {
     return story;
 }
 
+// Sent so that it need not be answered: a click that opens a box returns only when the box has gone.
 void Walker::Press(HWND button) const {
     SendNotifyMessageW(button, BM_CLICK, 0, 0);
     Ask(main_, WM_NULL);
@@ -58,6 +59,7 @@ HWND Walker::Visible(int id) const {
 HWND Walker::Next() const { return Visible(kNextId) ? Visible(kNextId) : Visible(IDCANCEL); }
 HWND Walker::Back() const { return Visible(kBackId); }
 
+// What stands in front disables the form: while that is enabled, there is nothing to look for.
 HWND Walker::Modal() const {
     if (main_ && IsWindowEnabled(main_)) return nullptr;
     for (HWND window : WindowsOf(wizard_.ProcessId()))

@@ -4,8 +4,10 @@
 
 namespace {
 
+// As long as any other wait: a busy machine may need it, a program that hangs does not end the test run.
 constexpr UINT kAnswerTime_ms = 90000;
 
+// Windows that are there and hidden are not what a person could use.
 BOOL CALLBACK Collect(HWND window, LPARAM data) {
     if (IsWindowVisible(window)) reinterpret_cast<std::vector<HWND>*>(data)->push_back(window);
     return TRUE;
@@ -50,6 +52,7 @@ std::wstring ClassOf(HWND window) {
     return name;
 }
 
+// By messages: only these give another process the text of a control, not only of a window.
 std::wstring TextOf(HWND window) {
     std::wstring text(Ask(window, WM_GETTEXTLENGTH) + 1, L'\0');
     text.resize(Ask(window, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data())));
@@ -67,6 +70,7 @@ std::vector<std::wstring> ItemsOf(HWND list) {
     return items;
 }
 
+// One that has gone meanwhile is no failure: programs close their windows when they like.
 DWORD_PTR Ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     DWORD_PTR result = 0;
     if (!SendMessageTimeoutW(window, message, wParam, lParam, SMTO_NORMAL, kAnswerTime_ms, &result) &&

@@ -5,6 +5,7 @@
 
 namespace {
 
+// Ids that the program gives its controls: nothing else tells the heading from the other labels.
 constexpr int kHeadingId = 120;
 constexpr int kBoxText = 65535; // the id of a message box's text
 
@@ -15,6 +16,7 @@ void Notify(HWND control, WORD code) {
 
 } // namespace
 
+// Character by character: the box takes what a person could type and no more.
 void TypeOver(HWND box, const std::wstring& text) {
     Ask(box, EM_SETSEL, 0, -1);
     Ask(box, WM_CLEAR);
@@ -32,6 +34,7 @@ WizardDriver::WizardDriver(const std::wstring& commandLine, Wait wait) : Running
     if (wait == Wait::Yes) WaitForOpening();
 }
 
+// The frame is there before its first page, with a text of its own; Cancel or Close comes with that page.
 void WizardDriver::WaitForOpening() {
     Until([this] { return (window_ = FindWindowOf(L"VWizardForm", L"")) != nullptr; },
           L"the wizard's window");
@@ -105,6 +108,7 @@ HWND WizardDriver::Input(const std::wstring& className, const std::wstring& prom
     return found;
 }
 
+// Another process's focus belongs to its thread; GetFocus knows only the caller's.
 HWND WizardDriver::Focus() const {
     GUITHREADINFO info{};
     info.cbSize = sizeof info;
@@ -119,6 +123,7 @@ std::wstring WizardDriver::AnswerBox(int button) const {
     const HWND label = GetDlgItem(box, kBoxText);
     std::wstring text = TextOf(box) + L"\r\n" + (label ? TextOf(label) : L"");
     PostMessageW(GetDlgItem(box, button), BM_CLICK, 0, 0);
+    // The next step must not find this box again.
     Until([box] { return !IsWindow(box) || !IsWindowVisible(box); }, L"the message box to go: " + text);
     return text;
 }

@@ -14,6 +14,7 @@ BITMAPINFO Describe(int width, int height) {
     return info;
 }
 
+// From the screen and not from the window: what lies above it, and its frame, belong to what is seen.
 std::vector<char> ReadPixels(const RECT& area, BITMAPINFO& info) {
     const int width = info.bmiHeader.biWidth, height = info.bmiHeader.biHeight;
     const HDC screen = GetDC(nullptr);
@@ -22,6 +23,7 @@ std::vector<char> ReadPixels(const RECT& area, BITMAPINFO& info) {
     const HGDIOBJ before = SelectObject(memory, bitmap);
     BitBlt(memory, 0, 0, width, height, screen, area.left, area.top, SRCCOPY);
     SelectObject(memory, before);
+    // Rows of a bitmap file begin at multiples of four bytes.
     const size_t rowBytes = (static_cast<size_t>(width) * 3 + 3) / 4 * 4;
     std::vector<char> pixels(rowBytes * static_cast<size_t>(height));
     GetDIBits(memory, bitmap, 0, static_cast<UINT>(height), pixels.data(), &info, DIB_RGB_COLORS);
@@ -42,7 +44,7 @@ bool CaptureScreen(const RECT& area, const std::wstring& file) {
     BITMAPINFO info = Describe(area.right - area.left, area.bottom - area.top);
     const std::vector<char> pixels = ReadPixels(area, info);
     BITMAPFILEHEADER header{};
-    header.bfType = 0x4D42;
+    header.bfType = 0x4D42; // "BM"
     header.bfOffBits = sizeof header + sizeof info.bmiHeader;
     header.bfSize = header.bfOffBits + static_cast<DWORD>(pixels.size());
     const HANDLE handle =

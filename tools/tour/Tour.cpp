@@ -1,6 +1,8 @@
 // Walks one wizard from its first page to its last by its own buttons and pictures every page.
 //   tour FOLDER PROGRAM [ARGUMENTS]              leaves FOLDER\ndw-01.bmp ... or FOLDER\ftw-01.bmp ...
 //   tour --one NAME FOLDER PROGRAM [ARGUMENTS]   leaves FOLDER\NAME.bmp of the program's one window
+#include "ftw/FtwPages.h"
+#include "ndw/NdwPages.h"
 #include "tools/driver/Windows.h"
 #include "tools/driver/WizardDriver.h"
 #include "tools/driver/Words.h"
@@ -9,12 +11,10 @@
 #include <array>
 #include <cstdio>
 #include <exception>
+#include <span>
 #include <utility>
 
 namespace {
-
-// The First-Time Setup Wizard has no pages 4 to 6.
-constexpr std::array<int, 14> kFtwPages{1, 2, 3, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17};
 
 class Tour {
   public:
@@ -28,8 +28,8 @@ class Tour {
     void Run() {
         wizard_.WaitForOpening();
         main_ = wizard_.Window();
-        for (step_ = 1; wizard_.IsRunning(); ++step_) {
-            if (step_ > 30) Fail(L"the wizard does not end\n" + wizard_.Describe());
+        for (step_ = 0; wizard_.IsRunning(); ++step_) {
+            if (step_ == Pages().size()) Fail(L"the wizard does not end\n" + wizard_.Describe());
             FillIn();
             PicturePage(main_, L"");
             GoOn();
@@ -54,10 +54,9 @@ class Tour {
         return nullptr;
     }
 
-    int PageNumber() const {
-        const auto index = static_cast<size_t>(step_ - 1);
-        return newDevice_ || index >= kFtwPages.size() ? step_ : kFtwPages[index];
-    }
+    // The walk goes by every page, in the order of the wizard's own table.
+    std::span<const Page> Pages() const { return (newDevice_ ? NdwBook() : FtwBook()).pages; }
+    int PageNumber() const { return Pages()[step_].number; }
 
     // Waits until the window has worked off its messages and stays as it is.
     void Settle(HWND window) const {
@@ -73,13 +72,13 @@ class Tour {
 
     // Gives the answers that lead to every page and let the walk go on.
     void FillIn() const {
-        const int page = PageNumber();
         Settle(main_);
-        if (newDevice_ && page == 5) Ask(FindControl(main_, L"Button", L"ASCII"), BM_CLICK);
-        if (FindControl(main_, L"Button", L"&Create"))
-            TypeOver(FindControl(main_, L"Edit", L""), L"Tour Mill");
-        if (!newDevice_ && page == 9) TypeOver(FindControl(main_, L"Edit", L""), L"C:\\CNC Programs");
-        if (!newDevice_ && page == 12) Ask(FindControl(main_, L"ListBox", L""), LB_SETSEL, TRUE, 0);
+        const std::wstring page = wizard_.Heading();
+        const HWND box = FindControl(main_, L"Edit", L"");
+        if (page == L"Data Format") Ask(FindControl(main_, L"Button", L"ASCII"), BM_CLICK);
+        if (page == L"Configuration Name") TypeOver(box, L"Tour Mill");
+        if (page == L"Specify CNC file location") TypeOver(box, L"C:\\CNC Programs");
+        if (page.starts_with(L"Import Sample")) Ask(FindControl(main_, L"ListBox", L""), LB_SETSEL, TRUE, 0);
     }
 
     // Presses Next and whatever asks on the way, until the page has changed or the program has ended.
@@ -137,7 +136,7 @@ class Tour {
     bool newDevice_ = false;
     WizardDriver wizard_;
     HWND main_ = nullptr;
-    int step_ = 0;
+    std::size_t step_ = 0;
 };
 
 } // namespace

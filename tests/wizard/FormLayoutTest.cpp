@@ -1,7 +1,7 @@
 // Measures every page of both wizards, at the resolution of the running process (./test repeats it at
 // others): nothing overlaps, nothing leaves its place, no text is cut.
 
-#include "wizard/Layout.h"
+#include "wizard/FormLayout.h"
 #include "app/StartUp.h"
 #include "ndw/NdwPages.h"
 #include "tests/support/DcpByHand.h"
@@ -141,19 +141,8 @@ TEST_P(Layout, EveryPage) {
     (GetParam() == kNewDevice ? form.picCncIcon : form.picScreenLogo).Visible(true);
     form.ConfigName = L"Machining centre 12 (hall 3)";
     // The longest lines that the answers can make.
-    NdwAnswers& answers = ndwSession.answers;
-    answers.dataFormatIndex = kAsciiDataFormat;
-    answers.portIndex = 255; // with the uses
-    answers.baudIndex = 11;
-    answers.characterFormatIndex = 3;
-    answers.flowControlIndex = 2;
-    answers.prefixChoice = 15;
-    answers.suffixChoice = 31;
-    answers.removedLines = answers.receivePrefix = std::wstring(10, L'W');
-    answers.filterOptions = 15;
-    answers.transmitTriggerIndex = 1;
-    answers.receiveNamingIndex = 4;
-    answers.receiveTerminationIndex = 2;
+    const std::wstring ten(10, L'W');
+    ndwSession.answers = {255, 11, kAsciiDataFormat, 3, 2, 0, 15, 31, 15, 1, 4, 2, ten, ten, L"", L""};
     for (const bool launched : {false, true})
         for (const Page& page : test.book.pages) {
             SCOPED_TRACE("mode " + std::to_string(GetParam()) + ", page " + std::to_string(page.number) +
