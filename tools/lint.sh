@@ -48,6 +48,7 @@ tidy_keys() {
     declare -A headers
     local line source=
     while read -r line; do
+        line=${line/#..\/..\//$root} # as a compiler cache gives it
         case $line in
         *'#deps'*) source= ;;
         "$root"*.cpp) source=${line#"$root"}; [ -z "${headers[$source]+x}" ] && headers[$source]=$source || source= ;;
