@@ -5,6 +5,7 @@
 #include "app/modLocations.h"
 #include "benchmark/Figures.h"
 #include "benchmark/Table.h"
+#include "win/Handles.h"
 
 #include <windows.h>
 
@@ -31,12 +32,11 @@ constexpr Figure kFigures[] = {
 // clang-format on
 
 void WriteSettings() {
-    const HANDLE file =
-        CreateFileW(locations.IniFile.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    const win::UniqueFile file(
+        CreateFileW(locations.IniFile.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
     constexpr char kText[] = "[General]\r\nSecurity=0\r\n";
     DWORD written = 0;
-    WriteFile(file, kText, sizeof kText - 1, &written, nullptr);
-    CloseHandle(file);
+    WriteFile(file.Get(), kText, sizeof kText - 1, &written, nullptr);
 }
 
 bool IsAskedFor(const wchar_t* name, int count, wchar_t** words) {

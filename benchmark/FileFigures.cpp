@@ -9,6 +9,7 @@
 #include "ndw/NdwAnswers.h"
 #include "shell/frmIcons.h"
 #include "tools/driver/Clock.h"
+#include "win/Handles.h"
 #include "wizard/frmWizard.h"
 
 #include <windows.h>
@@ -26,10 +27,10 @@ double iconsOpened = 0; // when the picker was painted
 constexpr DWORD kDcpSize = 5449;
 
 void MakeFile(const std::wstring& path, const void* bytes, DWORD size) {
-    const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    const win::UniqueFile file(
+        CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr));
     DWORD written = 0;
-    WriteFile(file, bytes, size, &written, nullptr);
-    CloseHandle(file);
+    WriteFile(file.Get(), bytes, size, &written, nullptr);
     if (written != size) throw std::runtime_error("cannot write a file");
 }
 
@@ -58,14 +59,10 @@ double DcpWrite(const std::wstring& path) {
 // The folder's entries, each looked at and forgotten.
 int Enumerate(const std::wstring& folder) {
     WIN32_FIND_DATAW found{};
-    const HANDLE search = FindFirstFileW((folder + L"*.dcp").c_str(), &found);
+    const win::UniqueFind search(FindFirstFileW((folder + L"*.dcp").c_str(), &found));
     int count = 0;
-    if (search != INVALID_HANDLE_VALUE) {
-        do
-            ++count;
-        while (FindNextFileW(search, &found));
-        FindClose(search);
-    }
+    for (bool more = static_cast<bool>(search); more; more = FindNextFileW(search.Get(), &found))
+        ++count;
     return count;
 }
 

@@ -3,6 +3,7 @@
 #include "benchmark/Figures.h"
 #include "benchmark/Table.h"
 #include "tools/driver/Clock.h"
+#include "tools/driver/RunningProgram.h"
 
 #include <windows.h>
 
@@ -26,32 +27,6 @@ int ReadTexts(HWND start) {
     }
     return count;
 }
-
-// The windows belong to another process: a text of one's own costs no switch between two.
-class OtherProcess {
-  public:
-    explicit OtherProcess(const Bench& bench) {
-        std::wstring commandLine = L"\"" + bench.programs + L"benchmark.exe\" --windows";
-        STARTUPINFOW start{};
-        start.cb = sizeof start;
-        if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
-                            &process_))
-            throw std::runtime_error("cannot start the process of many windows");
-        while (!FindWindowW(kOwnerClass, kReadyTitle))
-            Sleep(10);
-    }
-    OtherProcess(const OtherProcess&) = delete;
-    OtherProcess& operator=(const OtherProcess&) = delete;
-    ~OtherProcess() {
-        TerminateProcess(process_.hProcess, 0);
-        WaitForSingleObject(process_.hProcess, INFINITE);
-        CloseHandle(process_.hThread);
-        CloseHandle(process_.hProcess);
-    }
-
-  private:
-    PROCESS_INFORMATION process_{};
-};
 
 } // namespace
 
@@ -78,7 +53,9 @@ int OpenManyWindows() {
 }
 
 void MeasureSearch(const Bench& bench) {
-    const OtherProcess others(bench);
+    // The windows belong to another process: a text of one's own costs no switch between two.
+    const RunningProgram others(L"\"" + bench.programs + L"benchmark.exe\" --windows");
+    others.Until([] { return FindWindowW(kOwnerClass, kReadyTitle) != nullptr; }, L"many windows");
     std::vector<double> ours, theirs;
     for (int run = 0; run < bench.runs; ++run) {
         theirs.push_back(TimeOf([] {

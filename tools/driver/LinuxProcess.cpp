@@ -1,4 +1,5 @@
 #include "tools/driver/LinuxProcess.h"
+#include "win/Handles.h"
 
 #include <windows.h>
 
@@ -33,12 +34,9 @@ std::string ReadAll(const std::wstring& path) {
 std::vector<std::wstring> NumbersIn(const std::wstring& folder) {
     std::vector<std::wstring> names;
     WIN32_FIND_DATAW found{};
-    const HANDLE search = FindFirstFileW((folder + L"*").c_str(), &found);
-    if (search == INVALID_HANDLE_VALUE) return names;
-    do {
+    const win::UniqueFind search(FindFirstFileW((folder + L"*").c_str(), &found));
+    for (bool more = static_cast<bool>(search); more; more = FindNextFileW(search.Get(), &found))
         if (_wtoi(found.cFileName) > 0) names.emplace_back(found.cFileName);
-    } while (FindNextFileW(search, &found));
-    FindClose(search);
     return names;
 }
 

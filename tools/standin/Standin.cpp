@@ -1,5 +1,7 @@
 // Stands in for the companion programs of the suite in demonstrations and tests. Each start appends one
 // record to "<own path>.log"; with a file "standin.show" beside it, it also tells the person at the screen.
+#include "win/Handles.h"
+
 #include <windows.h>
 
 #include <string>
@@ -35,14 +37,12 @@ std::string ToUtf8(const std::wstring& text) {
 }
 
 bool Append(const std::wstring& file, const std::string& bytes) {
-    const HANDLE handle = CreateFileW(file.c_str(), FILE_APPEND_DATA, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                                      nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (handle == INVALID_HANDLE_VALUE) return false;
+    const win::UniqueFile log(CreateFileW(file.c_str(), FILE_APPEND_DATA, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                          nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
     // One call, so that records of programs started together never mix.
     DWORD written = 0;
-    const BOOL ok = WriteFile(handle, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
-    CloseHandle(handle);
-    return ok && written == bytes.size();
+    return WriteFile(log.Get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
+           written == bytes.size();
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "tools/tour/Capture.h"
+#include "win/Handles.h"
 
 #include <vector>
 
@@ -17,19 +18,17 @@ BITMAPINFO Describe(int width, int height) {
 // From the screen and not from the window: what lies above it, and its frame, belong to what is seen.
 std::vector<char> ReadPixels(const RECT& area, BITMAPINFO& info) {
     const int width = info.bmiHeader.biWidth, height = info.bmiHeader.biHeight;
-    const HDC screen = GetDC(nullptr);
-    const HDC memory = CreateCompatibleDC(screen);
-    const HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
-    const HGDIOBJ before = SelectObject(memory, bitmap);
-    BitBlt(memory, 0, 0, width, height, screen, area.left, area.top, SRCCOPY);
-    SelectObject(memory, before);
+    const win::WindowDc screen(nullptr);
+    const win::UniqueMemoryDc memory(CreateCompatibleDC(screen.Get()));
+    const win::UniqueBitmap bitmap(CreateCompatibleBitmap(screen.Get(), width, height));
+    {
+        const win::SelectedObject selected(memory.Get(), bitmap.Get());
+        BitBlt(memory.Get(), 0, 0, width, height, screen.Get(), area.left, area.top, SRCCOPY);
+    } // while it is selected its bits cannot be had
     // Rows of a bitmap file begin at multiples of four bytes.
     const size_t rowBytes = (static_cast<size_t>(width) * 3 + 3) / 4 * 4;
     std::vector<char> pixels(rowBytes * static_cast<size_t>(height));
-    GetDIBits(memory, bitmap, 0, static_cast<UINT>(height), pixels.data(), &info, DIB_RGB_COLORS);
-    DeleteObject(bitmap);
-    DeleteDC(memory);
-    ReleaseDC(nullptr, screen);
+    GetDIBits(memory.Get(), bitmap.Get(), 0, static_cast<UINT>(height), pixels.data(), &info, DIB_RGB_COLORS);
     return pixels;
 }
 
@@ -47,12 +46,9 @@ bool CaptureScreen(const RECT& area, const std::wstring& file) {
     header.bfType = 0x4D42; // "BM"
     header.bfOffBits = sizeof header + sizeof info.bmiHeader;
     header.bfSize = header.bfOffBits + static_cast<DWORD>(pixels.size());
-    const HANDLE handle =
-        CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (handle == INVALID_HANDLE_VALUE) return false;
-    const bool ok = Put(handle, &header, sizeof header) &&
-                    Put(handle, &info.bmiHeader, sizeof info.bmiHeader) &&
-                    Put(handle, pixels.data(), pixels.size());
-    CloseHandle(handle);
-    return ok;
+    const win::UniqueFile bitmap(
+        CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
+    return bitmap && Put(bitmap.Get(), &header, sizeof header) &&
+           Put(bitmap.Get(), &info.bmiHeader, sizeof info.bmiHeader) &&
+           Put(bitmap.Get(), pixels.data(), pixels.size());
 }
