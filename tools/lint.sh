@@ -70,7 +70,7 @@ tidy_one() {
 # The tests are left out, as from cppcheck: their macros cost more time than all the program's sources.
 # What the last commit or nobody yet has committed comes first: there a fault is most likely.
 check_tidy() {
-    export tidy_passed=${XDG_CACHE_HOME:-$HOME/.cache}/vwizard-tidy
+    export tidy_passed=${XDG_CACHE_HOME:-${HOME:-$PWD/build}/.cache}/vwizard-tidy
     mkdir -p "$tidy_passed"
     local keys changed
     keys=$(tidy_keys | grep -v '^tests/')
