@@ -32,7 +32,7 @@ TEST(PortUse, PassOverWhatIsNoConfiguration) {
     const win::UniqueFile saved(CreateFileW((folder.Path() + L"LATHE2.DCP").c_str(), GENERIC_WRITE, kAll,
                                             nullptr, OPEN_EXISTING, 0, nullptr)); // by VConfig, just now
     const auto lock = Spoil(folder.Path() + L"locked.DCP", Spoilt::Locked);
-    auto uses = PortsInUse(folder);
+    auto uses = PortsInUse(folder, 60000); // however busy the machine is
     EXPECT_EQ(uses.size(), 2u);
     std::sort(uses[3].begin(), uses[3].end());
     EXPECT_EQ(uses[3], (std::vector<std::wstring>{L"LATHE2", L"Mill 1"}));

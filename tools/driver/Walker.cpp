@@ -11,7 +11,7 @@ namespace {
 // So long a click may seem to do nothing before it is made again.
 constexpr DWORD kClick_ms = 5000;
 constexpr wchar_t kFormClass[] = L"VWizardForm";
-constexpr int kNextId = 100, kBackId = 101, kHeadingId = 120, kBoxTextId = 65535;
+constexpr int kNextId = 100, kHeadingId = 120, kBoxTextId = 65535;
 constexpr int kMostRefusals = 6; // of one page
 
 bool IsGone(HWND window) { return !IsWindow(window) || !IsWindowVisible(window); }
@@ -57,7 +57,6 @@ HWND Walker::Visible(int id) const {
 
 // The permission page has no Next.
 HWND Walker::Next() const { return Visible(kNextId) ? Visible(kNextId) : Visible(IDCANCEL); }
-HWND Walker::Back() const { return Visible(kBackId); }
 
 // What stands in front disables the form: while that is enabled, there is nothing to look for.
 HWND Walker::Modal() const {
@@ -178,9 +177,4 @@ Journey Walker::Walk() {
         journey.trouble = FromUtf8(error.what());
     }
     return journey;
-}
-
-Journey WalkWhole(const std::wstring& commandLine) {
-    const WizardDriver wizard(commandLine, WizardDriver::Wait::No);
-    return Walker(wizard).Walk();
 }

@@ -52,7 +52,6 @@ class Walker {
     bool WaitUntilReady();
 
     HWND Next() const; // the button that goes on; null when there is none
-    HWND Back() const;
     HWND Button(const wchar_t* caption) const;
 
   private:
@@ -65,6 +64,3 @@ class Walker {
     std::wstring lastPage_;
     int refusals_ = 0; // message boxes since that page was reached
 };
-
-// A whole run of a wizard, from its start to its end.
-Journey WalkWhole(const std::wstring& commandLine);
