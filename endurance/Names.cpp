@@ -102,7 +102,7 @@ TEST(Soak, names) {
         EXPECT_TRUE(change.starts_with(suite.Settings()) || change.find(L".log|") != std::wstring::npos)
             << "changed elsewhere: " << Utf8(change);
     // Ports of the prefix lead to a plain file: whoever opens them for writing leaves a trace.
-    EXPECT_EQ(FileBytes(PathFrom("SOAK_DEVICE")), "untouched\n") << "a port was written to";
+    EXPECT_EQ(FileBytes(Given("SOAK_DEVICE")), "untouched\n") << "a port was written to";
 }
 
 } // namespace

@@ -82,7 +82,7 @@ void Run(const DemoSuite& suite, const Row& row, const std::wstring& settings, c
 void Try(const Row& row) {
     SCOPED_TRACE(row.what);
     const DemoSuite suite;
-    const std::wstring settings = row.disk == Disk::Large ? suite.Settings() : PathFrom("SOAK_SMALL_DISK");
+    const std::wstring settings = row.disk == Disk::Large ? suite.Settings() : Given("SOAK_SMALL_DISK");
     if (settings.empty()) GTEST_SKIP() << row.what << " needs root, to mount a small disk";
     const std::wstring file = settings + suite::kIniFile;
     const std::string content = Content(Of(row.full, row.few));

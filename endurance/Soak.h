@@ -12,21 +12,16 @@
 #include <initializer_list>
 #include <string>
 
-// Of ./soak --short, which does a part of each check.
-inline bool IsShort() { return std::getenv("SOAK_SHORT") != nullptr; }
+// What ./soak hands over, "" when it does not.
+inline std::wstring Given(const char* variable) {
+    const char* value = std::getenv(variable);
+    return value ? FromUtf8(value) : L"";
+}
+
+// Of ./soak --short, which does a part of each check, and --seed N.
+inline bool IsShort() { return !Given("SOAK_SHORT").empty(); }
 inline int Of(int full, int few) { return IsShort() ? few : full; }
-
-// Of ./soak --seed N.
-inline std::uint32_t Seed() {
-    const char* seed = std::getenv("SOAK_SEED");
-    return seed ? static_cast<std::uint32_t>(std::strtoul(seed, nullptr, 10)) : 1;
-}
-
-// A path that ./soak hands over, "" for none.
-inline std::wstring PathFrom(const char* variable) {
-    const char* path = std::getenv(variable);
-    return path ? FromUtf8(path) : L"";
-}
+inline std::uint32_t Seed() { return std::wcstoul(Given("SOAK_SEED").c_str(), nullptr, 10); }
 
 // Sample configurations of these names.
 inline void AddSamples(const DemoSuite& suite, std::initializer_list<const wchar_t*> names) {

@@ -70,20 +70,17 @@ const std::map<Text, Spoilt> kSpoilt = {{L"missing", Spoilt::Missing},
 
 void Expect(const Text& is, const Text& wanted) { EXPECT_EQ(Utf8(is), Utf8(wanted)); }
 
-Text Items(HWND list) {
-    Text items;
-    for (const Text& item : ItemsOf(list))
-        items += (items.empty() ? L"" : L" | ") + item;
-    return items;
+Text Joined(const std::vector<Text>& texts) {
+    Text all;
+    for (const Text& text : texts)
+        all += (all.empty() ? L"" : L" | ") + text;
+    return all;
 }
 
 // "C:\folder\*.dcp" stands for the names that fit, folders included.
 Text Names(const Text& path) {
     const std::size_t name = path.rfind(L'\\') + 1;
-    Text names;
-    for (const Text& file : FileNames(path.substr(0, name), path.c_str() + name))
-        names += (names.empty() ? L"" : L" | ") + file;
-    return names;
+    return Joined(FileNames(path.substr(0, name), path.c_str() + name));
 }
 
 // What has the focus: its text, or its class when it holds more than a caption.
@@ -216,7 +213,7 @@ const Verb kVerbs[] = {
     {L"unchecked", [](Walk& w, const Text& a, const Text&) { EXPECT_FALSE(w.On().IsChecked(a)); }},
     {L"typed",     [](Walk& w, const Text& a, const Text& b) { Expect(TextOf(w.On().Input(L"Edit", a)), b); }},
     {L"picked",    [](Walk& w, const Text& a, const Text& b) { Expect(TextOf(w.On().Input(L"ComboBox", a)), b); }},
-    {L"items",     [](Walk& w, const Text& a, const Text&) { Expect(Items(w.On().Input(L"ListBox", L"")), a); }},
+    {L"items",     [](Walk& w, const Text& a, const Text&) { Expect(Joined(ItemsOf(w.On().Input(L"ListBox", L""))), a); }},
     {L"focused",   [](Walk& w, const Text& a, const Text&) { ExpectFocus(w, a); }},
     {L"default",   [](Walk& w, const Text& a, const Text&) { EXPECT_EQ(GetDlgItem(w.On().Window(), LOWORD(Ask(w.On().Window(), DM_GETDEFID))), w.On().Button(a)); }},
     {L"corner",    [](Walk& w, const Text&, const Text&) { ExpectCorner(w); }},
@@ -248,6 +245,7 @@ Text Walk::Replaced(Text text) const {
         {L"{desktop}", Folder(CSIDL_DESKTOPDIRECTORY)},
         {L"{start}", Folder(CSIDL_STARTMENU)},
         {L"{quick}", Folder(CSIDL_APPDATA) + L"Microsoft\\Internet Explorer\\Quick Launch\\"},
+        {L"{long}", Text(300, L'x')},
         {L"{n}", L"\r\n"}};
     for (const auto& [word, meaning] : kWords)
         for (auto at = text.find(word); at != Text::npos; at = text.find(word, at + meaning.size()))
