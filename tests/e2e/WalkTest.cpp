@@ -63,10 +63,8 @@ struct Walk {
 
 const std::map<Text, int> kButtons = {{L"ok", IDOK}, {L"cancel", IDCANCEL}, {L"yes", IDYES}, {L"no", IDNO}};
 
-const std::map<Text, Spoilt> kSpoilt = {{L"missing", Spoilt::Missing},
-                                        {L"file", Spoilt::File},
-                                        {L"folder", Spoilt::Folder},
-                                        {L"locked", Spoilt::Locked}};
+const std::map<Text, Spoilt> kSpoilt = {
+    {L"missing", Spoilt::Missing}, {L"folder", Spoilt::Folder}, {L"locked", Spoilt::Locked}};
 
 void Expect(const Text& is, const Text& wanted) { EXPECT_EQ(Utf8(is), Utf8(wanted)); }
 

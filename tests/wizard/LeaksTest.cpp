@@ -20,18 +20,6 @@ namespace {
 
 std::atomic<int> blocks = 0; // of memory, made and not given back
 
-void* Allocate(std::size_t size) {
-    void* block = std::malloc(size);
-    if (!block) throw std::bad_alloc();
-    ++blocks;
-    return block;
-}
-
-void Free(void* block) {
-    if (block) --blocks;
-    std::free(block);
-}
-
 // Entries in use of the process's own table of GDI objects.
 int GdiObjects() {
     constexpr std::size_t kEntries = 16384, kStride = 24, kType = 14, kTableInPeb = 0x94;
@@ -116,6 +104,14 @@ TEST(Leaks, NothingGrows) {
 
 } // namespace
 
-void* operator new(std::size_t size) { return Allocate(size); }
-void operator delete(void* block) noexcept { Free(block); }
-void operator delete(void* block, std::size_t) noexcept { Free(block); }
+void* operator new(std::size_t size) {
+    void* block = std::malloc(size);
+    if (!block) throw std::bad_alloc();
+    ++blocks;
+    return block;
+}
+void operator delete(void* block) noexcept {
+    if (block) --blocks;
+    std::free(block);
+}
+void operator delete(void* block, std::size_t) noexcept { operator delete(block); }

@@ -80,22 +80,12 @@ struct Way {
 const Way kWays[] = {{"FirstTimeSetup", kFirstTimeSetup, FtwBook, kFtwRoutes},
                      {"NewDevice", kNewDevice, NdwBook, kNdwRoutes}};
 
-std::vector<Page> Harmless(std::span<const Page> pages) {
-    std::vector<Page> harmless(pages.begin(), pages.end());
-    for (Page& page : harmless)
-        page.leave = nullptr;
-    return harmless;
-}
-
-PageBook With(const PageBook& book, std::span<const Page> pages) {
-    PageBook changed = book;
-    changed.pages = pages;
-    return changed;
-}
-
 class Routes : public testing::TestWithParam<Way> {
   protected:
     Routes() {
+        for (Page& page : pages)
+            page.leave = nullptr;
+        book.pages = pages;
         startUp.ConfigLaunch = false;
         form.SkipReminderShown = true;
         book.load(form);
@@ -133,8 +123,8 @@ class Routes : public testing::TestWithParam<Way> {
 
     const ScratchSuite suite;
     const std::int16_t mode = startUp.WizardMode = GetParam().mode;
-    const std::vector<Page> pages = Harmless(GetParam().book().pages);
-    const PageBook book = With(GetParam().book(), pages);
+    PageBook book = GetParam().book();
+    std::vector<Page> pages{book.pages.begin(), book.pages.end()};
     frmWizard form{book, {.configAllowed = true}};
 };
 
