@@ -52,7 +52,6 @@ TEST(Security, Codes) {
         suite.Ini("[General]\r\nAccessTest=old\r\n");
         const auto lock = Spoil(suite.Path().substr(0, suite.Path().size() - 1) + row.place, row.how);
         undone = row.undone;
-        SetLastError(ERROR_INVALID_DATA); // of some call before
         EXPECT_EQ(TestConfigAccess(), row.code);
         undone = 0;
         EXPECT_EQ(configAccess.ConfigWritable, row.code == 0);
