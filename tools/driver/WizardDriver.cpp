@@ -27,7 +27,7 @@ void TypeOver(HWND box, const std::wstring& text) {
 void Choose(HWND list, int item) {
     const bool isCombo = ClassOf(list) == L"ComboBox";
     Ask(list, isCombo ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(item));
-    Notify(list, isCombo ? CBN_SELCHANGE : LBN_SELCHANGE);
+    Notify(list, LBN_SELCHANGE); // the same number for both
 }
 
 WizardDriver::WizardDriver(const std::wstring& commandLine, Wait wait) : RunningProgram(commandLine) {
