@@ -44,7 +44,8 @@ tidy_keys() {
     local root checks
     root=$PWD/
     checks=$({ cat .clang-tidy; echo "${tidy_flags[@]}"; clang-tidy --version; } | sha256sum | cut -c1-16)
-    # A source compiled twice has two entries of the same headers: the first is enough.
+    # A source compiled twice has two entries of the same headers: the first is enough. The release preset is
+    # always built whole, so its entries are of today.
     declare -A headers
     local line source=
     while read -r line; do
@@ -54,7 +55,7 @@ tidy_keys() {
         "$root"*.cpp) source=${line#"$root"}; [ -z "${headers[$source]+x}" ] && headers[$source]=$source || source= ;;
         "$root"*.h) [ -z "$source" ] || headers[$source]+=" ${line#"$root"}" ;;
         esac
-    done < <(ninja -C build/debug -t deps 2> /dev/null; ninja -C build/release -t deps 2> /dev/null)
+    done < <(ninja -C build/release -t deps 2> /dev/null; ninja -C build/debug -t deps 2> /dev/null)
     for source in $(sources); do
         # shellcheck disable=SC2086
         echo "$source $checks$(cat ${headers[$source]:-$source} 2> /dev/null | sha256sum | cut -c1-32)"
