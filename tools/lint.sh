@@ -65,7 +65,7 @@ tidy_keys() {
 tidy_one() {
     local source=$1 stamp=$tidy_passed/$2
     [ -e "$stamp" ] && return 0
-    clang-tidy --quiet "$source" -- "${tidy_flags[@]}" 2> "$stamp.err" && touch "$stamp" && rm "$stamp.err"
+    clang-tidy --quiet "$source" -- "${tidy_flags[@]}" 2> "build/tidy-$2.err" && touch "$stamp"
 }
 
 # The tests are left out, as from cppcheck: their macros cost more time than all the program's sources.
