@@ -17,7 +17,7 @@ struct Scene {
     explicit Scene(const wchar_t* mode) : arguments(mode) {
         suite.Add(L"faulty.exe", L"VWizard.exe");
         suite.AddIcons();
-        AddSamples(suite, {L"Sample"});
+        suite.AddSamples();
     }
     std::wstring Log() const { return suite.Folder() + L"calls.txt"; }
 };

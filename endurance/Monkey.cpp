@@ -34,7 +34,7 @@ class Monkey {
   public:
     Monkey(std::uint32_t seed, const wchar_t* arguments) : arguments_(arguments), random_(seed) {
         suite_.AddIcons();
-        AddSamples(suite_, {L"One", L"Two", L"Three"});
+        suite_.AddSamples();
     }
 
     // What was wrong, with the last clicks; "" when nothing was.

@@ -9,7 +9,6 @@
 
 #include <cstdint>
 #include <cstdlib>
-#include <initializer_list>
 #include <string>
 
 // What ./soak hands over, "" when it does not.
@@ -22,10 +21,3 @@ inline std::wstring Given(const char* variable) {
 inline bool IsShort() { return !Given("SOAK_SHORT").empty(); }
 inline int Of(int full, int few) { return IsShort() ? few : full; }
 inline std::uint32_t Seed() { return std::wcstoul(Given("SOAK_SEED").c_str(), nullptr, 10); }
-
-// Sample configurations of these names.
-inline void AddSamples(const DemoSuite& suite, std::initializer_list<const wchar_t*> names) {
-    CreateDirectoryW((suite.Folder() + L"Samples").c_str(), nullptr);
-    for (const wchar_t* name : names)
-        WriteFileBytes(suite.Folder() + L"Samples\\" + name + L".dcp", "sample");
-}

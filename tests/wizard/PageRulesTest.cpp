@@ -48,8 +48,6 @@ LOGFONTW FontOf(HFONT font) {
     return face;
 }
 
-// ---- keyboard and screen reader ----
-
 // The object that Wine makes for a list does not look for the label in front of it, as Windows' does.
 bool IsLabelledList(HWND control) {
     const HWND label = GetWindow(control, GW_HWNDPREV);
@@ -124,8 +122,6 @@ TEST_P(PageRules, TabGoesDownThePageAndEnterIsNext) {
             EXPECT_FALSE(IsButton(stop, BS_DEFPUSHBUTTON) && stop != test.form.cmdNext.Handle());
     });
 }
-
-// ---- looks ----
 
 int Height(int points) {
     return -MulDiv(points, GetDeviceCaps(win::WindowDc(nullptr).Get(), LOGPIXELSY), 72);
@@ -212,8 +208,6 @@ TEST(PageChoose, KeepingIsOfferedToWhoHasSomethingToKeep) {
         EXPECT_EQ(test.form.pool.optUserInput[1].Enabled(), offered) << progress;
     }
 }
-
-// ---- from page to page ----
 
 std::wstring StateOf(HWND control) {
     const std::wstring kind = ClassOf(control);
