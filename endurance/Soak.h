@@ -9,7 +9,6 @@
 
 #include <cstdint>
 #include <cstdlib>
-#include <string>
 
 // What ./soak hands over, "" when it does not.
 inline std::wstring Given(const char* variable) {

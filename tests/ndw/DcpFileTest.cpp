@@ -2,9 +2,19 @@
 
 #include "ndw/DcpFromAnswers.h"
 #include "tests/support/DcpByHand.h"
+#include "tests/support/Imports.h"
 #include "tests/support/Scratch.h"
 
 #include <gtest/gtest.h>
+
+namespace {
+
+decltype(&WriteFile) systemWrite;
+BOOL WINAPI WriteHalf(HANDLE file, LPCVOID bytes, DWORD size, LPDWORD written, LPOVERLAPPED overlapped) {
+    return systemWrite(file, bytes, size / 2, written, overlapped);
+}
+
+} // namespace
 
 TEST(DcpFile, WritesInPlaceOrRefuses) {
     const ScratchFolder folder;
@@ -26,4 +36,7 @@ TEST(DcpFile, WritesInPlaceOrRefuses) {
         EXPECT_FALSE(WriteDcpFile(folder.Path() + name)) << Utf8(name);
     EXPECT_EQ(FileNames(folder),
               (std::vector<std::wstring>{L"D\u00e4n 1.DCP", L"folder.DCP", L"locked.DCP"}));
+    const ReplacedImport half("WriteFile", reinterpret_cast<void*>(&WriteHalf)); // as on a disk that is full
+    systemWrite = half.Original<decltype(systemWrite)>();
+    EXPECT_FALSE(WriteDcpFile(folder.Path() + L"half.DCP"));
 }
