@@ -1,7 +1,7 @@
 #pragma once
 
-// What a test may spoil: a folder, a registry key, the suite's locations, message boxes. All of it is put back
-// or removed at the end of the test.
+// What a test may spoil: a folder, a registry key, the suite's locations, message boxes. All of it is put
+// back or removed at the end.
 
 #include "app/modLocations.h"
 #include "tools/driver/Words.h"
