@@ -119,7 +119,6 @@ TEST_P(Loaded, HasTheIconsOfItsMode) {
     }
 }
 
-// As the tool-tip window knows it, "" for none.
 std::wstring TipOf(const frmWizard& form, win::Control& control) {
     SendMessageW(form.Hwnd(), WM_SETCURSOR, reinterpret_cast<WPARAM>(form.Hwnd()), HTCLIENT);
     HWND tips = nullptr;
