@@ -1,4 +1,5 @@
 #include "tools/driver/LinuxProcess.h"
+
 #include "win/Handles.h"
 
 #include <windows.h>
